@@ -1,0 +1,106 @@
+// Opaque bytes behind a record that knows who frees them.
+#include <RTI/VariableLengthData.h>
+
+#include <algorithm>
+#include <cstring>
+
+namespace rti1516e {
+
+class VariableLengthDataImplementation {
+public:
+   VariableLengthDataImplementation() : data(nullptr), size(0), deleter(nullptr), owned(false) {}
+
+   VariableLengthDataImplementation(void const* inData, unsigned long inSize)
+         : data(new char[inSize]),
+           size(inSize),
+           deleter(nullptr),
+           owned(true)
+   {
+      if (inSize != 0) {
+         std::memcpy(data, inData, inSize);
+      }
+   }
+
+   VariableLengthDataImplementation(VariableLengthDataImplementation const&) = delete;
+   VariableLengthDataImplementation& operator=(VariableLengthDataImplementation const&) = delete;
+
+   ~VariableLengthDataImplementation()
+   {
+      if (!owned) {
+         return;
+      }
+      if (deleter != nullptr) {
+         deleter(data);
+      } else {
+         delete[] static_cast<char*>(data);
+      }
+   }
+
+   void* data;
+   unsigned long size;
+   void (*deleter)(void*); // null: the bytes are an array of char
+   bool owned;
+};
+
+VariableLengthData::VariableLengthData() : _implementation(new VariableLengthDataImplementation) {}
+
+VariableLengthData::VariableLengthData(void const* inData, unsigned long inSize)
+      : _implementation(new VariableLengthDataImplementation(inData, inSize))
+{
+}
+
+VariableLengthData::VariableLengthData(VariableLengthData const& rhs)
+      : _implementation(new VariableLengthDataImplementation(rhs.data(), rhs.size()))
+{
+}
+
+VariableLengthData::~VariableLengthData()
+{
+   delete _implementation;
+}
+
+VariableLengthData& VariableLengthData::operator=(VariableLengthData const& rhs)
+{
+   setData(rhs.data(), rhs.size());
+   return *this;
+}
+
+void const* VariableLengthData::data() const
+{
+   return _implementation->data;
+}
+
+unsigned long VariableLengthData::size() const
+{
+   return _implementation->size;
+}
+
+void VariableLengthData::setData(void const* inData, unsigned long inSize)
+{
+   delete _implementation;
+   _implementation = new VariableLengthDataImplementation(inData, inSize);
+}
+
+void VariableLengthData::setDataPointer(void* inData, unsigned long inSize)
+{
+   delete _implementation;
+   _implementation = new VariableLengthDataImplementation;
+   _implementation->data = inData;
+   _implementation->size = inSize;
+}
+
+void VariableLengthData::takeDataPointer(void* inData, unsigned long inSize, void (*func)(void*))
+{
+   setDataPointer(inData, inSize);
+   _implementation->deleter = func;
+   _implementation->owned = true;
+}
+
+bool operator<(VariableLengthData const& lhs, VariableLengthData const& rhs)
+{
+   signed char const* const left = static_cast<signed char const*>(lhs.data());
+   signed char const* const right = static_cast<signed char const*>(rhs.data());
+   return std::lexicographical_compare(left, left + lhs.size(), right, right + rhs.size());
+}
+
+} // namespace rti1516e
