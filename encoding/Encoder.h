@@ -1,0 +1,296 @@
+// The bytes of every scalar and string, and the rules of padding, under all encoding helpers and
+// logical times. Plain functions without state.
+#ifndef encoding_Encoder_h
+#define encoding_Encoder_h
+
+#include <cstdint>
+#include <cstring>
+#include <RTI/encoding/EncodingConfig.h>
+#include <string>
+#include <vector>
+
+// The seventeen scalars: name, value type, order of the bytes, number of bytes. The number of bytes
+// is the boundary too. bitsOf(value), below, gives the bits that are put in order.
+#define ENCODER_FOR_EACH_SCALAR(X)                                                                 \
+   X(HLAASCIIchar, char, BigEndian, 1)                                                             \
+   X(HLAbyte, char, BigEndian, 1)                                                                  \
+   X(HLAoctet, char, BigEndian, 1)                                                                 \
+   X(HLAboolean, bool, BigEndian, 4)                                                               \
+   X(HLAunicodeChar, wchar_t, BigEndian, 2)                                                        \
+   X(HLAinteger16BE, short, BigEndian, 2)                                                          \
+   X(HLAinteger16LE, short, LittleEndian, 2)                                                       \
+   X(HLAinteger32BE, int, BigEndian, 4)                                                            \
+   X(HLAinteger32LE, int, LittleEndian, 4)                                                         \
+   X(HLAinteger64BE, rti1516e::Integer64, BigEndian, 8)                                            \
+   X(HLAinteger64LE, rti1516e::Integer64, LittleEndian, 8)                                         \
+   X(HLAfloat32BE, float, BigEndian, 4)                                                            \
+   X(HLAfloat32LE, float, LittleEndian, 4)                                                         \
+   X(HLAfloat64BE, double, BigEndian, 8)                                                           \
+   X(HLAfloat64LE, double, LittleEndian, 8)                                                        \
+   X(HLAoctetPairBE, rti1516e::OctetPair, BigEndian, 2)                                            \
+   X(HLAoctetPairLE, rti1516e::OctetPair, LittleEndian, 2)
+
+namespace Encoder {
+
+// Each scalar X has five functions, written out here for HLAinteger32BE:
+//
+//   unsigned int boundaryofHLAinteger32BE();        4
+//   int sizeofHLAinteger32BE(int const& value);     4
+//   char* encodeHLAinteger32BE(int value, int& length);
+//      A new array of char that the caller frees by delete[]; length is set to its size.
+//   void encodeHLAinteger32BE(int value, void const* buffer);
+//      Writes to buffer, const notwithstanding. The caller guarantees the room.
+//   int decodeHLAinteger32BE(void const* buffer, unsigned long length);
+//      Reads at buffer. The caller guarantees the bytes; length is not looked at.
+
+// The integer whose bytes a value travels as, and the value back from it.
+
+inline std::uint8_t bitsOf(char value)
+{
+   return static_cast<std::uint8_t>(value);
+}
+
+inline std::uint32_t bitsOf(bool value)
+{
+   return value ? 1 : 0;
+}
+
+// Drops what does not fit 16 bits.
+inline std::uint16_t bitsOf(wchar_t value)
+{
+   return static_cast<std::uint16_t>(value);
+}
+
+inline std::uint16_t bitsOf(short value)
+{
+   return static_cast<std::uint16_t>(value);
+}
+
+inline std::uint32_t bitsOf(int value)
+{
+   return static_cast<std::uint32_t>(value);
+}
+
+inline std::uint64_t bitsOf(long long value)
+{
+   return static_cast<std::uint64_t>(value);
+}
+
+inline std::uint32_t bitsOf(float value)
+{
+   std::uint32_t bits;
+   std::memcpy(&bits, &value, sizeof(bits));
+   return bits;
+}
+
+inline std::uint64_t bitsOf(double value)
+{
+   std::uint64_t bits;
+   std::memcpy(&bits, &value, sizeof(bits));
+   return bits;
+}
+
+// first is the more significant byte.
+inline std::uint16_t bitsOf(rti1516e::OctetPair const& value)
+{
+   return static_cast<std::uint16_t>(bitsOf(value.first) << 8 | bitsOf(value.second));
+}
+
+template <class Bits, class Value>
+void setFromBits(Bits bits, Value& value)
+{
+   value = static_cast<Value>(bits);
+}
+
+// Any number but 1 is false.
+inline void setFromBits(std::uint32_t bits, bool& value)
+{
+   value = bits == 1;
+}
+
+inline void setFromBits(std::uint32_t bits, float& value)
+{
+   std::memcpy(&value, &bits, sizeof(value));
+}
+
+inline void setFromBits(std::uint64_t bits, double& value)
+{
+   std::memcpy(&value, &bits, sizeof(value));
+}
+
+inline void setFromBits(std::uint16_t bits, rti1516e::OctetPair& value)
+{
+   value.first = static_cast<char>(bits >> 8);
+   value.second = static_cast<char>(bits);
+}
+
+// An order of bytes, by shifts, so that the processor's own order plays no part. An integer is two
+// halves, each an integer of half the width; compilers make one move of the whole.
+template <bool mostSignificantFirst>
+struct ByteOrder {
+   static void store(std::uint8_t bits, char* out)
+   {
+      out[0] = static_cast<char>(bits);
+   }
+
+   static void store(std::uint16_t bits, char* out)
+   {
+      out[high(2)] = static_cast<char>(bits >> 8);
+      out[low(2)] = static_cast<char>(bits);
+   }
+
+   static void store(std::uint32_t bits, char* out)
+   {
+      store(static_cast<std::uint16_t>(bits >> 16), out + high(4));
+      store(static_cast<std::uint16_t>(bits), out + low(4));
+   }
+
+   static void store(std::uint64_t bits, char* out)
+   {
+      store(static_cast<std::uint32_t>(bits >> 32), out + high(8));
+      store(static_cast<std::uint32_t>(bits), out + low(8));
+   }
+
+   static void load(char const* in, std::uint8_t& bits)
+   {
+      bits = static_cast<std::uint8_t>(in[0]);
+   }
+
+   static void load(char const* in, std::uint16_t& bits)
+   {
+      bits = static_cast<std::uint16_t>(bitsOf(in[high(2)]) << 8 | bitsOf(in[low(2)]));
+   }
+
+   static void load(char const* in, std::uint32_t& bits)
+   {
+      loadHalves<std::uint16_t>(in, bits);
+   }
+
+   static void load(char const* in, std::uint64_t& bits)
+   {
+      loadHalves<std::uint32_t>(in, bits);
+   }
+
+private:
+   // Offsets of the two halves of an integer of that many bytes.
+   static constexpr int high(int size)
+   {
+      return mostSignificantFirst ? 0 : size / 2;
+   }
+   static constexpr int low(int size)
+   {
+      return mostSignificantFirst ? size / 2 : 0;
+   }
+
+   template <class Half, class Bits>
+   static void loadHalves(char const* in, Bits& bits)
+   {
+      Half highHalf;
+      Half lowHalf;
+      load(in + high(sizeof(Bits)), highHalf);
+      load(in + low(sizeof(Bits)), lowHalf);
+      bits = static_cast<Bits>(highHalf) << 8 * sizeof(Half) | lowHalf;
+   }
+};
+
+typedef ByteOrder<true> BigEndian;
+typedef ByteOrder<false> LittleEndian;
+
+// The functions that need a scalar's value and order only.
+template <class Order, class Value>
+void encodeScalar(Value const& value, void const* buffer)
+{
+   Order::store(bitsOf(value), static_cast<char*>(const_cast<void*>(buffer)));
+}
+
+template <class Order, class Value>
+Value decodeScalar(void const* buffer)
+{
+   decltype(bitsOf(Value())) bits;
+   Order::load(static_cast<char const*>(buffer), bits);
+   Value value;
+   setFromBits(bits, value);
+   return value;
+}
+
+#define ENCODER_SCALAR(Name, Value, Order, Bytes)                                                  \
+   static_assert(sizeof(bitsOf(Value())) == Bytes, "bytes of " #Name);                             \
+                                                                                                   \
+   inline unsigned int boundaryof##Name()                                                          \
+   {                                                                                               \
+      return Bytes;                                                                                \
+   }                                                                                               \
+                                                                                                   \
+   inline int sizeof##Name(Value const&)                                                           \
+   {                                                                                               \
+      return Bytes;                                                                                \
+   }                                                                                               \
+                                                                                                   \
+   inline void encode##Name(Value value, void const* buffer)                                       \
+   {                                                                                               \
+      encodeScalar<Order>(value, buffer);                                                          \
+   }                                                                                               \
+                                                                                                   \
+   inline char* encode##Name(Value value, int& length)                                             \
+   {                                                                                               \
+      length = Bytes;                                                                              \
+      char* const buffer = new char[Bytes];                                                        \
+      encodeScalar<Order>(value, buffer);                                                          \
+      return buffer;                                                                               \
+   }                                                                                               \
+                                                                                                   \
+   inline Value decode##Name(void const* buffer, unsigned long)                                    \
+   {                                                                                               \
+      return decodeScalar<Order, Value>(buffer);                                                   \
+   }
+
+ENCODER_FOR_EACH_SCALAR(ENCODER_SCALAR)
+
+#undef ENCODER_SCALAR
+
+// The two strings: a count of characters, 4 bytes, most significant first; then the characters, one
+// byte each or two (the low 16 bits, most significant byte first). Nothing is transcoded.
+//
+// The decoders need 4 bytes at least. They compare the count with the length of all the data and
+// throw EncoderException "Array index out of bounds" if it is greater, or negative. A smaller count
+// may still reach behind the data: the string has the length that the count says, and what lies
+// outside the data is read as zero. The forms with a third argument decode into a string that is
+// there already; it is unchanged if they throw.
+
+unsigned int boundaryofHLAASCIIstring();
+int sizeofHLAASCIIstring(std::string const& value);
+char* encodeHLAASCIIstring(std::string const& value, int& length);
+void encodeHLAASCIIstring(std::string const& value, void const* buffer);
+std::string decodeHLAASCIIstring(void const* buffer, unsigned long length);
+void decodeHLAASCIIstring(void const* buffer, unsigned long length, std::string& value);
+
+unsigned int boundaryofHLAunicodeString();
+int sizeofHLAunicodeString(std::wstring const& value);
+char* encodeHLAunicodeString(std::wstring const& value, int& length);
+void encodeHLAunicodeString(std::wstring const& value, void const* buffer);
+std::wstring decodeHLAunicodeString(void const* buffer, unsigned long length);
+void decodeHLAunicodeString(void const* buffer, unsigned long length, std::wstring& value);
+
+// The smallest number of bytes that brings size to a multiple of boundary. A boundary of 0 is a
+// division by zero.
+inline unsigned long paddingSizeInBytes(unsigned long size, unsigned long boundary)
+{
+   unsigned long const behind = size % boundary;
+   return behind == 0 ? 0 : boundary - behind;
+}
+
+// Adds count bytes of zero. All padding comes from here.
+void insertBytes(std::vector<char>& buffer, unsigned long count);
+
+// Adds a copy of count bytes; with a count of 0 bytes may be null.
+void appendBytes(std::vector<char>& buffer, char const* bytes, unsigned long count);
+
+// Adds four bytes, most significant first.
+void appendInt(std::vector<char>& buffer, int value);
+
+// Reads four bytes, most significant first. The caller guarantees that they are there.
+int decodeInt(std::vector<char> const& buffer, unsigned long index);
+
+} // namespace Encoder
+
+#endif
