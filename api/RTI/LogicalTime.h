@@ -22,6 +22,12 @@ class LogicalTimeInterval;
 /// leads to is told with each kind, as are the length and layout of the encoded form.
 class RTI_EXPORT LogicalTime {
 public:
+#if __cplusplus >= 201103L
+   // Without a word on them the assignment below would make copies deprecated.
+   LogicalTime() = default;
+   LogicalTime(LogicalTime const&) = default;
+#endif
+
    virtual ~LogicalTime();
 
    /// Sets the first time of the axis.

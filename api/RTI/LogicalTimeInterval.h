@@ -19,6 +19,12 @@ class LogicalTime;
 /// is told there of kinds holds here.
 class RTI_EXPORT LogicalTimeInterval {
 public:
+#if __cplusplus >= 201103L
+   // Without a word on them the assignment below would make copies deprecated.
+   LogicalTimeInterval() = default;
+   LogicalTimeInterval(LogicalTimeInterval const&) = default;
+#endif
+
    virtual ~LogicalTimeInterval();
 
    /// Sets the empty interval.

@@ -1,0 +1,95 @@
+// The interval of the standard integer time.
+#ifndef RTI_HLAinteger64Interval_h
+#define RTI_HLAinteger64Interval_h
+
+#include <RTI/LogicalTimeInterval.h>
+#include <RTI/SpecificConfig.h>
+
+RTI_BEGIN_INTERFACE
+
+namespace rti1516e {
+
+class HLAinteger64IntervalImplementation;
+
+/// A distance between two HLAinteger64Time: a signed 64-bit integer, which may be negative.
+///
+/// Arithmetic wraps around silently. The encoded form is 8 bytes, most significant byte first.
+///
+/// Where an operation takes a LogicalTimeInterval, it takes an HLAinteger64Interval, and
+/// setToDifference two HLAinteger64Time. Any other class is a std::bad_cast: the constructor lets
+/// it out, every other operation ends the process through std::unexpected, since it is in no list.
+/// So does a buffer of less than 8 bytes: what is thrown is a pointer to a CouldNotDecode.
+class RTI_EXPORT HLAinteger64Interval : public LogicalTimeInterval {
+public:
+   /// Zero.
+   HLAinteger64Interval();
+
+   HLAinteger64Interval(long long value);
+   HLAinteger64Interval(LogicalTimeInterval const& value);
+   HLAinteger64Interval(HLAinteger64Interval const& value);
+   virtual ~HLAinteger64Interval();
+
+   /// 0.
+   virtual void setZero();
+   virtual bool isZero() const;
+
+   /// 1.
+   virtual void setEpsilon();
+   virtual bool isEpsilon() const;
+
+   virtual LogicalTimeInterval& operator=(LogicalTimeInterval const& value)
+         RTI_THROW((InvalidLogicalTimeInterval));
+   virtual LogicalTimeInterval& operator+=(LogicalTimeInterval const& addend)
+         RTI_THROW((IllegalTimeArithmetic, InvalidLogicalTimeInterval));
+   virtual LogicalTimeInterval& operator-=(LogicalTimeInterval const& subtrahend)
+         RTI_THROW((IllegalTimeArithmetic, InvalidLogicalTimeInterval));
+
+   virtual bool operator>(LogicalTimeInterval const& value) const
+         RTI_THROW((InvalidLogicalTimeInterval));
+   virtual bool operator<(LogicalTimeInterval const& value) const
+         RTI_THROW((InvalidLogicalTimeInterval));
+   virtual bool operator==(LogicalTimeInterval const& value) const
+         RTI_THROW((InvalidLogicalTimeInterval));
+   virtual bool operator>=(LogicalTimeInterval const& value) const
+         RTI_THROW((InvalidLogicalTimeInterval));
+   virtual bool operator<=(LogicalTimeInterval const& value) const
+         RTI_THROW((InvalidLogicalTimeInterval));
+
+   virtual void setToDifference(LogicalTime const& minuend, LogicalTime const& subtrahend)
+         RTI_THROW((IllegalTimeArithmetic, InvalidLogicalTime));
+
+   virtual VariableLengthData encode() const;
+   virtual size_t encode(void* buffer, size_t bufferSize) const RTI_THROW((CouldNotEncode));
+   virtual size_t encodedLength() const;
+   virtual void decode(VariableLengthData const& data) RTI_THROW((InternalError, CouldNotDecode));
+   virtual void decode(void* buffer, size_t bufferSize) RTI_THROW((InternalError, CouldNotDecode));
+
+   /// The class's name and in angle brackets the value.
+   virtual std::wstring toString() const;
+
+   /// "HLAinteger64Time", the name of the time that the interval belongs to.
+   virtual std::wstring implementationName() const;
+
+   virtual long long getInterval() const;
+   virtual void setInterval(long long value);
+   virtual HLAinteger64Interval& operator=(HLAinteger64Interval const& value);
+
+   operator long long() const;
+
+#if __cplusplus >= 202002L
+   // This language version tries the operands in either order: for two of this class, both as good.
+   bool operator==(HLAinteger64Interval const& value) const
+   {
+      return *this == static_cast<LogicalTimeInterval const&>(value);
+   }
+#endif
+
+private:
+   HLAinteger64IntervalImplementation* _implementation;
+};
+
+} // namespace rti1516e
+
+RTI_END_INTERFACE
+
+#endif
