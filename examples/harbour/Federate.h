@@ -1,0 +1,117 @@
+// A federate of the harbour: joins, sails or signals for some time steps, and resigns.
+#ifndef HARBOUR_FEDERATE_H
+#define HARBOUR_FEDERATE_H
+
+#include "Ledger.h"
+
+#include <RTI/NullFederateAmbassador.h>
+#include <RTI/RTI1516.h>
+#include <RTI/time/HLAinteger64Time.h>
+
+#include <condition_variable>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <set>
+
+// Both federates run this same life, each on a thread of its own; they differ in their name, their
+// callback model and in what they send. Ship updates and signals carry a time; both federates
+// regulate time and are constrained by it.
+class Federate : public rti1516e::NullFederateAmbassador {
+public:
+   Federate(std::wstring const& name, rti1516e::CallbackModel model, Ledger& ledger);
+
+   // Up to the federation execution. The one that comes first creates it from the FOM module.
+   void join(std::wstring const& fomModule);
+
+   // Registers the synchronization point at which both begin.
+   void registerStart();
+
+   // From the synchronization point to the resignation.
+   void run(int steps);
+
+   // Only the last one to leave succeeds in destroying the federation execution.
+   void leave();
+
+   int services() const;
+   int callbacks() const;
+
+private:
+   // The ambassador; each use is a service called.
+   class CountedAmbassador {
+   public:
+      std::unique_ptr<rti1516e::RTIambassador> ambassador;
+      int calls = 0;
+
+      rti1516e::RTIambassador* operator->()
+      {
+         ++calls;
+         return ambassador.get();
+      }
+   };
+
+   void declare();
+   void startTime();
+   void step(long long time);
+   void sendShip(long long time);
+   void sendSignal(long long time);
+   void waitUntil(std::function<bool()> const& condition);
+   void happened(std::wstring const& what, std::function<void()> const& change);
+
+   // Callbacks.
+   void announceSynchronizationPoint(
+         std::wstring const& label, rti1516e::VariableLengthData const& tag) override;
+   void federationSynchronized(
+         std::wstring const& label, rti1516e::FederateHandleSet const& failed) override;
+   void discoverObjectInstance(rti1516e::ObjectInstanceHandle object,
+         rti1516e::ObjectClassHandle objectClass, std::wstring const& name) override;
+   void discoverObjectInstance(rti1516e::ObjectInstanceHandle object,
+         rti1516e::ObjectClassHandle objectClass, std::wstring const& name,
+         rti1516e::FederateHandle producer) override;
+   void reflectAttributeValues(rti1516e::ObjectInstanceHandle object,
+         rti1516e::AttributeHandleValueMap const& values, rti1516e::VariableLengthData const& tag,
+         rti1516e::OrderType sent, rti1516e::TransportationType type,
+         rti1516e::LogicalTime const& time, rti1516e::OrderType received,
+         rti1516e::SupplementalReflectInfo info) override;
+   void reflectAttributeValues(rti1516e::ObjectInstanceHandle object,
+         rti1516e::AttributeHandleValueMap const& values, rti1516e::VariableLengthData const& tag,
+         rti1516e::OrderType sent, rti1516e::TransportationType type,
+         rti1516e::LogicalTime const& time, rti1516e::OrderType received,
+         rti1516e::MessageRetractionHandle handle, rti1516e::SupplementalReflectInfo info) override;
+   void receiveInteraction(rti1516e::InteractionClassHandle interaction,
+         rti1516e::ParameterHandleValueMap const& values, rti1516e::VariableLengthData const& tag,
+         rti1516e::OrderType sent, rti1516e::TransportationType type,
+         rti1516e::LogicalTime const& time, rti1516e::OrderType received,
+         rti1516e::SupplementalReceiveInfo info) override;
+   void receiveInteraction(rti1516e::InteractionClassHandle interaction,
+         rti1516e::ParameterHandleValueMap const& values, rti1516e::VariableLengthData const& tag,
+         rti1516e::OrderType sent, rti1516e::TransportationType type,
+         rti1516e::LogicalTime const& time, rti1516e::OrderType received,
+         rti1516e::MessageRetractionHandle handle, rti1516e::SupplementalReceiveInfo info) override;
+   void timeRegulationEnabled(rti1516e::LogicalTime const& time) override;
+   void timeConstrainedEnabled(rti1516e::LogicalTime const& time) override;
+   void timeAdvanceGrant(rti1516e::LogicalTime const& time) override;
+
+   std::wstring const _name;
+   rti1516e::CallbackModel const _model;
+   Ledger& _ledger;
+   CountedAmbassador _rti;
+
+   rti1516e::ObjectClassHandle _shipClass;
+   rti1516e::AttributeHandle _shipName, _position, _cargo;
+   rti1516e::InteractionClassHandle _signalClass;
+   rti1516e::ParameterHandle _text, _strength;
+   rti1516e::ObjectInstanceHandle _ship;
+
+   // What callbacks change, on whatever thread they come.
+   std::mutex _mutex;
+   std::condition_variable _changed;
+   int _callbacks = 0;
+   std::set<std::wstring> _announced, _synchronized;
+   int _discovered = 0;
+   bool _regulating = false;
+   bool _constrained = false;
+   long long _granted = -1;
+};
+
+#endif

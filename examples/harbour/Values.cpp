@@ -1,0 +1,82 @@
+#include "Values.h"
+
+#include <RTI/encoding/BasicDataElements.h>
+#include <RTI/encoding/HLAfixedRecord.h>
+#include <RTI/encoding/HLAvariableArray.h>
+
+using namespace rti1516e;
+
+bool operator==(Ship const& left, Ship const& right)
+{
+   return left.name == right.name && left.x == right.x && left.y == right.y
+         && left.cargo == right.cargo;
+}
+
+bool operator==(Signal const& left, Signal const& right)
+{
+   return left.text == right.text && left.strength == right.strength;
+}
+
+VariableLengthData encodeText(std::wstring const& text)
+{
+   return HLAunicodeString(text).encode();
+}
+
+VariableLengthData encodePosition(double x, double y)
+{
+   HLAfixedRecord position;
+   position.appendElement(HLAfloat64BE(x));
+   position.appendElement(HLAfloat64BE(y));
+   return position.encode();
+}
+
+VariableLengthData encodeCargo(std::vector<std::wstring> const& cargo)
+{
+   HLAunicodeString const prototype;
+   HLAvariableArray array(prototype);
+   for (std::wstring const& item : cargo) {
+      array.addElement(HLAunicodeString(item));
+   }
+   return array.encode();
+}
+
+VariableLengthData encodeStrength(int strength)
+{
+   return HLAinteger32BE(strength).encode();
+}
+
+std::wstring decodeText(VariableLengthData const& data)
+{
+   HLAunicodeString text;
+   text.decode(data);
+   return text;
+}
+
+void decodePosition(VariableLengthData const& data, double& x, double& y)
+{
+   HLAfloat64BE east(&x); // decoding writes through to the caller's variables
+   HLAfloat64BE north(&y);
+   HLAfixedRecord position;
+   position.appendElementPointer(&east);
+   position.appendElementPointer(&north);
+   position.decode(data);
+}
+
+std::vector<std::wstring> decodeCargo(VariableLengthData const& data)
+{
+   HLAunicodeString const prototype;
+   HLAvariableArray array(prototype);
+   array.decode(data);
+   std::vector<std::wstring> cargo;
+   for (unsigned long i = 0; i < array.size(); ++i) {
+      cargo.push_back(dynamic_cast<HLAunicodeString const&>(array[i]));
+   }
+   return cargo;
+}
+
+int decodeStrength(VariableLengthData const& data)
+{
+   HLAinteger32BE strength;
+   strength.decode(data);
+   return strength;
+}

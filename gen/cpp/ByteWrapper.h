@@ -1,0 +1,93 @@
+// The cursor over the byte array in which arguments cross to Java and back.
+#ifndef TARN1516E_GEN_BYTEWRAPPER_H
+#define TARN1516E_GEN_BYTEWRAPPER_H
+
+#include <cstring>
+
+namespace rti1516e {
+
+// Integers are signed 32-bit, most significant byte first; a field begins where the last one ended.
+// The wrapper knows no end: whoever fills or reads a buffer answers for its length.
+class ByteWrapper {
+public:
+   explicit ByteWrapper(char* buffer) : _position(0), _base(buffer) {}
+
+   // The length is taken for the caller's convenience and is no bound.
+   ByteWrapper(char* buffer, unsigned long) : _position(0), _base(buffer) {}
+
+   virtual ~ByteWrapper() {}
+
+   int getInt()
+   {
+      unsigned char const* const bytes = reinterpret_cast<unsigned char const*>(getPtr());
+      _position += 4;
+      return static_cast<int>(static_cast<unsigned>(bytes[0]) << 24
+            | static_cast<unsigned>(bytes[1]) << 16 | static_cast<unsigned>(bytes[2]) << 8
+            | static_cast<unsigned>(bytes[3]));
+   }
+
+   void putInt(int value)
+   {
+      unsigned const bits = static_cast<unsigned>(value);
+      char* const bytes = reserve(4);
+      bytes[0] = static_cast<char>(bits >> 24);
+      bytes[1] = static_cast<char>(bits >> 16);
+      bytes[2] = static_cast<char>(bits >> 8);
+      bytes[3] = static_cast<char>(bits);
+   }
+
+   void get(void* destination, unsigned long count)
+   {
+      if (count != 0) {
+         std::memcpy(destination, getPtr(), count);
+      }
+      _position += count;
+   }
+
+   void put(void const* source, unsigned long count)
+   {
+      if (count != 0) {
+         std::memcpy(getPtr(), source, count);
+      }
+      _position += count;
+   }
+
+   char* getPtr()
+   {
+      return _base + _position;
+   }
+
+   void advance(unsigned long count)
+   {
+      _position += count;
+   }
+
+   // The bytes passed over, to be filled by the caller.
+   char* reserve(unsigned long count)
+   {
+      char* const bytes = getPtr();
+      _position += count;
+      return bytes;
+   }
+
+   // Moves to the next multiple of alignment, counted from the buffer's begin.
+   void align(int alignment)
+   {
+      while (_position % static_cast<unsigned long>(alignment) != 0) {
+         ++_position;
+      }
+   }
+
+   char* array() const
+   {
+      return _base;
+   }
+
+private:
+   unsigned long _position;
+   char* _base;
+};
+
+} // namespace rti1516e
+
+#endif

@@ -1,0 +1,36 @@
+// What every service does on its way to Java: its arguments go into one byte array.
+#ifndef TARN1516E_GEN_SERVICEFRAME_H
+#define TARN1516E_GEN_SERVICEFRAME_H
+
+#include "gen/cpp/ByteWrapper.h"
+
+#include <jni.h>
+
+namespace tarn1516e {
+
+// Makes the array that holds the wrapped arguments, one behind the other, with no header. Sizes are
+// summed first and the array is filled in place, while it is pinned: no wrapper's encode may call
+// the VM or throw. The caller releases the local reference.
+template <class... Wrappers>
+jbyteArray encodeBody(JNIEnv* env, Wrappers const&... wrappers)
+{
+   unsigned long size = 0;
+   for (unsigned long const declared : {wrappers.getEncodedSize()...}) {
+      size += declared;
+   }
+   jbyteArray const body = env->NewByteArray(static_cast<jsize>(size));
+   void* const pinned = env->GetPrimitiveArrayCritical(body, nullptr);
+   rti1516e::ByteWrapper buffer(static_cast<char*>(pinned));
+   int const inOrder[] = {(wrappers.encode(buffer), 0)...};
+   static_cast<void>(inOrder);
+   env->ReleasePrimitiveArrayCritical(body, pinned, 0);
+   return body;
+}
+
+// The identifier of a Java method. A class without it does not belong to this library: the process
+// ends.
+jmethodID bind(JNIEnv* env, jclass type, char const* name, char const* signature);
+
+} // namespace tarn1516e
+
+#endif

@@ -1,0 +1,77 @@
+// The Java VM of the process: found, loaded, started or joined at first use, and never let go.
+#ifndef TARN1516E_JVM_JVM_H
+#define TARN1516E_JVM_JVM_H
+
+#include <jni.h>
+#include <RTI/SpecificConfig.h>
+#include <string>
+
+namespace tarn1516e {
+
+class JVM {
+public:
+   // The calling thread's environment. The first call brings the VM up, under a lock; a failure is
+   // an RTIinternalError and leaves everything as it was, so that the next call starts over.
+   static JNIEnv* instance();
+
+   // Whether the VM was in the process before this library.
+   static bool isShared();
+
+private:
+   friend class MyEnv;
+
+   static void start();
+   static void create(std::string const& home);
+   static void attach();
+
+   static JavaVM* _jvm;
+   static JNIEnv* _instance; // of the thread that brought the VM up; null before
+   static bool _isShared;
+};
+
+// The calling thread's environment, for the length of a service. A thread is attached by its first
+// service and stays so: to the VM an attached thread's request is a look-up.
+class MyEnv {
+public:
+   MyEnv() : _env(nullptr)
+   {
+      JVM::_jvm->AttachCurrentThread(reinterpret_cast<void**>(&_env), nullptr);
+   }
+
+   JNIEnv* operator->() const
+   {
+      return _env;
+   }
+
+   operator JNIEnv*() const
+   {
+      return _env;
+   }
+
+private:
+   JNIEnv* _env;
+};
+
+// The steps of start-up, in their order. A home is the directory of an installation, with its
+// trailing '/', or empty.
+std::string findTarnHome();
+void loadJvm(std::string const& home);
+void loadOptions(
+      JavaVMOption* options, int& optionCount, int maxOptions, std::string const& home);
+
+// What they are made of.
+std::string get_current_path();
+std::wstring jniResult(long status);
+bool isTarnHome(std::string const& directory);
+bool fileExists(std::string const& path);
+std::string getDirName(std::string const& path);
+std::string findJvm(std::string const& home);
+[[noreturn]] void reportJvmLoadingError(char const* variable);
+bool hasOption(int& optionCount, JavaVMOption* options, char const* prefix);
+
+} // namespace tarn1516e
+
+// An address inside this library, by which it finds the file that it was loaded from.
+extern "C" RTI_EXPORT void tarn1516e_exported_symbol_for_dlsym();
+
+#endif

@@ -1,0 +1,22 @@
+// Java strings as wide strings.
+#ifndef TARN1516E_JVM_JAVASTRING_H
+#define TARN1516E_JVM_JAVASTRING_H
+
+#include <jni.h>
+#include <string>
+
+namespace tarn1516e {
+
+// One wide character for each 16-bit unit: surrogates stay two. Keeps the reference.
+inline std::wstring copyString(JNIEnv* env, jstring text)
+{
+   jsize const length = env->GetStringLength(text);
+   jchar const* const units = env->GetStringCritical(text, nullptr);
+   std::wstring const copy(units, units + length);
+   env->ReleaseStringCritical(text, units);
+   return copy;
+}
+
+} // namespace tarn1516e
+
+#endif

@@ -1,0 +1,19 @@
+// Texts of start-up and its failures: formatting, and the two widths of character.
+#ifndef TARN1516E_JVM_TEXT_H
+#define TARN1516E_JVM_TEXT_H
+
+#include <string>
+
+namespace tarn1516e {
+
+// As printf builds it, cut at 2047 characters.
+std::string format(char const* pattern, ...) __attribute__((format(printf, 1, 2)));
+std::wstring wformat(wchar_t const* pattern, ...);
+
+// Character by character, with no encoding: the low 8 bits out, and back as ISO 8859-1.
+std::string wstring2string(std::wstring const& wide);
+std::wstring string2wstring(std::string const& narrow);
+
+} // namespace tarn1516e
+
+#endif
