@@ -41,7 +41,8 @@ namespace Encoder {
 //   void encodeHLAinteger32BE(int value, void const* buffer);
 //      Writes to buffer, const notwithstanding. The caller guarantees the room.
 //   int decodeHLAinteger32BE(void const* buffer, unsigned long length);
-//      Reads at buffer. The caller guarantees the bytes; length is not looked at.
+//      Reads at buffer. The caller guarantees the bytes; length is not looked at. A second form
+//      has a third argument, int&, that it decodes into.
 
 // The integer whose bytes a value travels as, and the value back from it.
 
@@ -242,6 +243,11 @@ Value decodeScalar(void const* buffer)
    inline Value decode##Name(void const* buffer, unsigned long)                                    \
    {                                                                                               \
       return decodeScalar<Order, Value>(buffer);                                                   \
+   }                                                                                               \
+                                                                                                   \
+   inline void decode##Name(void const* buffer, unsigned long, Value& value)                       \
+   {                                                                                               \
+      value = decodeScalar<Order, Value>(buffer);                                                  \
    }
 
 ENCODER_FOR_EACH_SCALAR(ENCODER_SCALAR)

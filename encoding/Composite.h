@@ -1,0 +1,66 @@
+// What arrays, records and opaque data have in common: encoding by way of a vector of bytes, and
+// elements that they own or that the caller owns.
+#ifndef encoding_Composite_h
+#define encoding_Composite_h
+
+#include <RTI/encoding/DataElement.h>
+#include <vector>
+
+namespace rti1516e {
+
+// A place for an element: a clone made by the composite, which deletes it, or the caller's.
+struct ElementSlot {
+   bool owned;
+   DataElement* element;
+};
+
+ElementSlot cloneOf(DataElement const& element);
+ElementSlot callersOwn(DataElement* element);
+
+// Deletes the element if it is owned.
+void release(ElementSlot const& slot);
+
+// Throws "Array index out of bounds" unless the index is below the size.
+void checkIndex(std::size_t index, std::size_t size);
+
+// Throws "Element doesn't match prototype" unless the types are the same.
+void checkPrototype(bool sameType);
+
+// Throws "Non-matching type" unless the types are the same.
+void checkType(bool sameType);
+
+// Appends zeros up to a multiple of the boundary.
+void padTo(unsigned long boundary, std::vector<Octet>& buffer);
+
+// The element's encodeInto() and decodeFrom() on a whole block.
+void encodeBlock(DataElement const& element, VariableLengthData& inData);
+void decodeBlock(DataElement& element, VariableLengthData const& inData);
+
+} // namespace rti1516e
+
+// Defines the members of the element X that go through its copy constructor, encodeInto() and
+// decodeFrom().
+#define RTI_DEFINE_COMPOSITE_MEMBERS(X)                                                            \
+   std::auto_ptr<DataElement> X::clone() const                                                     \
+   {                                                                                               \
+      return std::auto_ptr<DataElement>(new X(*this));                                             \
+   }                                                                                               \
+                                                                                                   \
+   VariableLengthData X::encode() const RTI_THROW((EncoderException))                              \
+   {                                                                                               \
+      VariableLengthData data;                                                                     \
+      encode(data);                                                                                \
+      return data;                                                                                 \
+   }                                                                                               \
+                                                                                                   \
+   void X::encode(VariableLengthData& inData) const RTI_THROW((EncoderException))                  \
+   {                                                                                               \
+      encodeBlock(*this, inData);                                                                  \
+   }                                                                                               \
+                                                                                                   \
+   void X::decode(VariableLengthData const& inData) RTI_THROW((EncoderException))                  \
+   {                                                                                               \
+      decodeBlock(*this, inData);                                                                  \
+   }
+
+#endif

@@ -1,0 +1,59 @@
+// The elements of arrays and fixed records, encoded one after the other.
+#ifndef encoding_ElementSequence_h
+#define encoding_ElementSequence_h
+
+#include "encoding/Composite.h"
+
+namespace rti1516e {
+
+// Indices are not checked.
+class ElementSequence {
+public:
+   ElementSequence();
+
+   // Clones all elements, also those that rhs does not own.
+   ElementSequence(ElementSequence const& rhs);
+
+   ElementSequence& operator=(ElementSequence const&) = delete;
+   ~ElementSequence();
+
+   std::size_t size() const
+   {
+      return _slots.size();
+   }
+   DataElement& operator[](std::size_t index) const
+   {
+      return *_slots[index].element;
+   }
+
+   // Adds a clone.
+   void append(DataElement const& element);
+
+   // Adds the caller's element.
+   void appendPointer(DataElement* element);
+
+   // Puts the new element where the old one was, and releases that.
+   void replace(std::size_t index, ElementSlot slot);
+
+   // Releases the elements from size on.
+   void truncate(std::size_t size);
+
+   // The largest boundary among the elements, and at least the one given.
+   unsigned int boundary(unsigned int least) const;
+
+   // Each element pads to its own boundary.
+   void encodeInto(std::vector<Octet>& buffer) const;
+
+   // Where the last element ends if the first may begin at start.
+   std::size_t encodedLength(std::size_t start) const;
+
+   // Returns the index behind the last element.
+   std::size_t decodeFrom(std::vector<Octet> const& buffer, std::size_t index);
+
+private:
+   std::vector<ElementSlot> _slots;
+};
+
+} // namespace rti1516e
+
+#endif

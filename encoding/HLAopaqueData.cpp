@@ -1,0 +1,161 @@
+// HLAopaqueData: bytes behind their number, in a buffer of the element's or the caller's.
+#include <RTI/encoding/HLAopaqueData.h>
+
+#include "encoding/Composite.h"
+#include "encoding/Encoder.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace rti1516e {
+
+namespace {
+
+// What an empty value is copied from.
+Octet const EMPTY_ARRAY[1] = {0};
+
+} // namespace
+
+class HLAopaqueDataImplementation {
+public:
+   HLAopaqueDataImplementation() : buffer(nullptr), bufferLength(0), dataLength(0), owned(true) {}
+
+   // A copy of its own, not null even if it is empty.
+   HLAopaqueDataImplementation(Octet const* data, std::size_t length)
+         : buffer(new Octet[length]),
+           bufferLength(length),
+           dataLength(length),
+           owned(true)
+   {
+      if (length != 0) {
+         std::memcpy(buffer, data, length);
+      }
+   }
+
+   // The caller's memory.
+   HLAopaqueDataImplementation(Octet* external, std::size_t bufferSize, std::size_t dataSize)
+         : buffer(external),
+           bufferLength(bufferSize),
+           dataLength(dataSize),
+           owned(false)
+   {
+   }
+
+   HLAopaqueDataImplementation(HLAopaqueDataImplementation const&) = delete;
+   HLAopaqueDataImplementation& operator=(HLAopaqueDataImplementation const&) = delete;
+
+   ~HLAopaqueDataImplementation()
+   {
+      if (owned) {
+         delete[] buffer;
+      }
+   }
+
+   Octet* buffer;
+   std::size_t bufferLength; // bytes of room
+   std::size_t dataLength;   // bytes in use
+   bool owned;               // if not, the buffer is the caller's
+};
+
+HLAopaqueData::HLAopaqueData() : _implementation(new HLAopaqueDataImplementation) {}
+
+HLAopaqueData::HLAopaqueData(Octet const* inData, std::size_t dataSize)
+      : _implementation(new HLAopaqueDataImplementation(inData, dataSize))
+{
+}
+
+HLAopaqueData::HLAopaqueData(Octet** inData, std::size_t bufferSize, std::size_t dataSize)
+      RTI_THROW((EncoderException))
+      : _implementation(new HLAopaqueDataImplementation(*inData, bufferSize, dataSize))
+{
+}
+
+HLAopaqueData::HLAopaqueData(HLAopaqueData const& rhs)
+      : DataElement(rhs),
+        _implementation(new HLAopaqueDataImplementation(rhs.get(), rhs.dataLength()))
+{
+}
+
+HLAopaqueData::~HLAopaqueData()
+{
+   delete _implementation;
+}
+
+HLAopaqueData& HLAopaqueData::operator=(HLAopaqueData const& rhs)
+{
+   set(rhs.get(), rhs.dataLength());
+   return *this;
+}
+
+RTI_DEFINE_COMPOSITE_MEMBERS(HLAopaqueData)
+
+void HLAopaqueData::encodeInto(std::vector<Octet>& buffer) const RTI_THROW((EncoderException))
+{
+   padTo(getOctetBoundary(), buffer);
+   Encoder::appendInt(buffer, static_cast<int>(_implementation->dataLength));
+   Encoder::appendBytes(buffer, _implementation->buffer, _implementation->dataLength);
+}
+
+std::size_t HLAopaqueData::decodeFrom(std::vector<Octet> const& buffer, std::size_t index)
+      RTI_THROW((EncoderException))
+{
+   if (index > buffer.size() || buffer.size() - index < 4) {
+      throw EncoderException(L"HLAopaqueData cannot decode (indata too short)");
+   }
+   long const count = Encoder::decodeInt(buffer, index);
+   std::size_t const length = static_cast<std::size_t>(count);
+   index += 4;
+   if (length > buffer.size() - index) {
+      throw EncoderException(L"Array index out of bounds");
+   }
+   Octet const* const data = length == 0 ? EMPTY_ARRAY : &buffer[index];
+   if (_implementation->owned) {
+      set(data, length);
+   } else if (length > _implementation->bufferLength) {
+      throw EncoderException(L"Insufficient external storage");
+   } else {
+      std::copy(data, data + length, _implementation->buffer);
+      _implementation->dataLength = length;
+   }
+   return index + length;
+}
+
+std::size_t HLAopaqueData::getEncodedLength() const RTI_THROW((EncoderException))
+{
+   return _implementation->dataLength + 4;
+}
+
+unsigned int HLAopaqueData::getOctetBoundary() const
+{
+   return 4;
+}
+
+std::size_t HLAopaqueData::bufferLength() const
+{
+   return _implementation->bufferLength;
+}
+
+std::size_t HLAopaqueData::dataLength() const
+{
+   return _implementation->dataLength;
+}
+
+void HLAopaqueData::setDataPointer(Octet** inData, std::size_t bufferSize, std::size_t dataSize)
+      RTI_THROW((EncoderException))
+{
+   delete _implementation;
+   _implementation = new HLAopaqueDataImplementation(*inData, bufferSize, dataSize);
+}
+
+void HLAopaqueData::set(Octet const* inData, std::size_t dataSize)
+{
+   delete _implementation;
+   _implementation = new HLAopaqueDataImplementation(inData, dataSize);
+}
+
+Octet const* HLAopaqueData::get() const
+{
+   return _implementation->buffer;
+}
+
+} // namespace rti1516e
