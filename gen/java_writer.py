@@ -286,8 +286,7 @@ def group_text(group, services, names):
         + imports(services)
         + f"\npublic interface {camel(group)} {{\n"
         + "\n".join(
-            fold(f"default {RESULTS[signature(row.signature)][0]} {names[row.java_name]}"
-                 f"({parameters(row)}) throws RTIexception {{", "   ") + "\n"
-            + f'      throw Loopback.notDone("{row.java_name}");\n   }}\n'
+            fold(f"{RESULTS[signature(row.signature)][0]} {names[row.java_name]}"
+                 f"({parameters(row)}) throws RTIexception;", "   ") + "\n"
             for row in services)
         + "}\n")

@@ -8,72 +8,42 @@ import java.util.Map;
 import java.util.Set;
 
 public interface DataDistributionManagement {
-   default int createRegion(Set<Integer> theDimensions) throws RTIexception {
-      throw Loopback.notDone("createRegion_DHS");
-   }
+   int createRegion(Set<Integer> theDimensions) throws RTIexception;
 
-   default void commitRegionModifications(Set<Integer> theRegions) throws RTIexception {
-      throw Loopback.notDone("commitRegionModifications_RHS");
-   }
+   void commitRegionModifications(Set<Integer> theRegions) throws RTIexception;
 
-   default void deleteRegion(int theRegion) throws RTIexception {
-      throw Loopback.notDone("deleteRegion_RH");
-   }
+   void deleteRegion(int theRegion) throws RTIexception;
 
-   default int registerObjectInstanceWithRegions(int theClass, List<AttributeRegions>
-         theAttributesAndRegions) throws RTIexception {
-      throw Loopback.notDone("registerObjectInstanceWithRegions_OCH_ASRSPL");
-   }
+   int registerObjectInstanceWithRegions(int theClass, List<AttributeRegions>
+         theAttributesAndRegions) throws RTIexception;
 
-   default int registerObjectInstanceWithRegions(int theClass, List<AttributeRegions>
-         theAttributesAndRegions, String theName) throws RTIexception {
-      throw Loopback.notDone("registerObjectInstanceWithRegions_OCH_ASRSPL_S");
-   }
+   int registerObjectInstanceWithRegions(int theClass, List<AttributeRegions>
+         theAttributesAndRegions, String theName) throws RTIexception;
 
-   default void associateRegionsForUpdates(int theObject, List<AttributeRegions>
-         theAttributesAndRegions) throws RTIexception {
-      throw Loopback.notDone("associateRegionsForUpdates_OIH_ASRSPL");
-   }
+   void associateRegionsForUpdates(int theObject, List<AttributeRegions> theAttributesAndRegions)
+         throws RTIexception;
 
-   default void unassociateRegionsForUpdates(int theObject, List<AttributeRegions>
-         theAttributesAndRegions) throws RTIexception {
-      throw Loopback.notDone("unassociateRegionsForUpdates_OIH_ASRSPL");
-   }
+   void unassociateRegionsForUpdates(int theObject, List<AttributeRegions> theAttributesAndRegions)
+         throws RTIexception;
 
-   default void subscribeObjectClassAttributesWithRegions(int theClass, List<AttributeRegions>
-         theAttributesAndRegions, boolean active, String updateRateDesignator) throws RTIexception {
-      throw Loopback.notDone("subscribeObjectClassAttributesWithRegions_OCH_ASRSPL_Z_S");
-   }
+   void subscribeObjectClassAttributesWithRegions(int theClass, List<AttributeRegions>
+         theAttributesAndRegions, boolean active, String updateRateDesignator) throws RTIexception;
 
-   default void unsubscribeObjectClassAttributesWithRegions(int theClass, List<AttributeRegions>
-         theAttributesAndRegions) throws RTIexception {
-      throw Loopback.notDone("unsubscribeObjectClassAttributesWithRegions_OCH_ASRSPL");
-   }
+   void unsubscribeObjectClassAttributesWithRegions(int theClass, List<AttributeRegions>
+         theAttributesAndRegions) throws RTIexception;
 
-   default void subscribeInteractionClassWithRegions(int theInteraction, boolean active,
-         Set<Integer> theRegions) throws RTIexception {
-      throw Loopback.notDone("subscribeInteractionClassWithRegions_ICH_Z_RHS");
-   }
+   void subscribeInteractionClassWithRegions(int theInteraction, boolean active, Set<Integer>
+         theRegions) throws RTIexception;
 
-   default void unsubscribeInteractionClassWithRegions(int theInteraction, Set<Integer> theRegions)
-         throws RTIexception {
-      throw Loopback.notDone("unsubscribeInteractionClassWithRegions_ICH_RHS");
-   }
+   void unsubscribeInteractionClassWithRegions(int theInteraction, Set<Integer> theRegions) throws
+         RTIexception;
 
-   default void sendInteractionWithRegions(int theInteraction, Map<Integer, byte[]>
-         theParameterValues, Set<Integer> theRegions, byte[] theUserSuppliedTag) throws RTIexception
-         {
-      throw Loopback.notDone("sendInteractionWithRegions_ICH_PHVM_RHS_BX");
-   }
+   void sendInteractionWithRegions(int theInteraction, Map<Integer, byte[]> theParameterValues,
+         Set<Integer> theRegions, byte[] theUserSuppliedTag) throws RTIexception;
 
-   default byte[] sendInteractionWithRegions(int theInteraction, Map<Integer, byte[]>
-         theParameterValues, Set<Integer> theRegions, byte[] theUserSuppliedTag, byte[] theTime)
-         throws RTIexception {
-      throw Loopback.notDone("sendInteractionWithRegions_ICH_PHVM_RHS_BX_LT");
-   }
+   byte[] sendInteractionWithRegions(int theInteraction, Map<Integer, byte[]> theParameterValues,
+         Set<Integer> theRegions, byte[] theUserSuppliedTag, byte[] theTime) throws RTIexception;
 
-   default void requestAttributeValueUpdateWithRegions(int theClass, List<AttributeRegions>
-         theAttributesAndRegions, byte[] theUserSuppliedTag) throws RTIexception {
-      throw Loopback.notDone("requestAttributeValueUpdateWithRegions_OCH_ASRSPL_BX");
-   }
+   void requestAttributeValueUpdateWithRegions(int theClass, List<AttributeRegions>
+         theAttributesAndRegions, byte[] theUserSuppliedTag) throws RTIexception;
 }

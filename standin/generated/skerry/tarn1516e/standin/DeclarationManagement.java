@@ -6,47 +6,26 @@ import hla.rti1516e.exceptions.RTIexception;
 import java.util.Set;
 
 public interface DeclarationManagement {
-   default void publishObjectClassAttributes(int theClass, Set<Integer> theAttributes) throws
-         RTIexception {
-      throw Loopback.notDone("publishObjectClassAttributes_OCH_AHS");
-   }
+   void publishObjectClassAttributes(int theClass, Set<Integer> theAttributes) throws RTIexception;
 
-   default void unpublishObjectClass(int theClass) throws RTIexception {
-      throw Loopback.notDone("unpublishObjectClass_OCH");
-   }
+   void unpublishObjectClass(int theClass) throws RTIexception;
 
-   default void unpublishObjectClassAttributes(int theClass, Set<Integer> theAttributes) throws
-         RTIexception {
-      throw Loopback.notDone("unpublishObjectClassAttributes_OCH_AHS");
-   }
+   void unpublishObjectClassAttributes(int theClass, Set<Integer> theAttributes) throws
+         RTIexception;
 
-   default void publishInteractionClass(int theInteraction) throws RTIexception {
-      throw Loopback.notDone("publishInteractionClass_ICH");
-   }
+   void publishInteractionClass(int theInteraction) throws RTIexception;
 
-   default void unpublishInteractionClass(int theInteraction) throws RTIexception {
-      throw Loopback.notDone("unpublishInteractionClass_ICH");
-   }
+   void unpublishInteractionClass(int theInteraction) throws RTIexception;
 
-   default void subscribeObjectClassAttributes(int theClass, Set<Integer> theAttributes, boolean
-         active, String updateRateDesignator) throws RTIexception {
-      throw Loopback.notDone("subscribeObjectClassAttributes_OCH_AHS_Z_S");
-   }
+   void subscribeObjectClassAttributes(int theClass, Set<Integer> theAttributes, boolean active,
+         String updateRateDesignator) throws RTIexception;
 
-   default void unsubscribeObjectClass(int theClass) throws RTIexception {
-      throw Loopback.notDone("unsubscribeObjectClass_OCH");
-   }
+   void unsubscribeObjectClass(int theClass) throws RTIexception;
 
-   default void unsubscribeObjectClassAttributes(int theClass, Set<Integer> theAttributes) throws
-         RTIexception {
-      throw Loopback.notDone("unsubscribeObjectClassAttributes_OCH_AHS");
-   }
+   void unsubscribeObjectClassAttributes(int theClass, Set<Integer> theAttributes) throws
+         RTIexception;
 
-   default void subscribeInteractionClass(int theInteraction, boolean active) throws RTIexception {
-      throw Loopback.notDone("subscribeInteractionClass_ICH_Z");
-   }
+   void subscribeInteractionClass(int theInteraction, boolean active) throws RTIexception;
 
-   default void unsubscribeInteractionClass(int theInteraction) throws RTIexception {
-      throw Loopback.notDone("unsubscribeInteractionClass_ICH");
-   }
+   void unsubscribeInteractionClass(int theInteraction) throws RTIexception;
 }

@@ -7,112 +7,61 @@ import java.util.List;
 import java.util.Set;
 
 public interface FederationManagement {
-   default void connect(int theFederateAmbassador, int theCallbackModel, String
-         localSettingsDesignator) throws RTIexception {
-      throw Loopback.notDone("connect_FA_CM_S");
-   }
+   void connect(int theFederateAmbassador, int theCallbackModel, String localSettingsDesignator)
+         throws RTIexception;
 
-   default void disconnect() throws RTIexception {
-      throw Loopback.notDone("disconnect");
-   }
+   void disconnect() throws RTIexception;
 
-   default void createFederationExecution(String federationExecutionName, String fomModule, String
-         logicalTimeImplementationName) throws RTIexception {
-      throw Loopback.notDone("createFederationExecution_S_URL_S");
-   }
+   void createFederationExecution(String federationExecutionName, String fomModule, String
+         logicalTimeImplementationName) throws RTIexception;
 
-   default void createFederationExecution(String federationExecutionName, List<String> fomModules,
-         String logicalTimeImplementationName) throws RTIexception {
-      throw Loopback.notDone("createFederationExecution_S_URLX_S");
-   }
+   void createFederationExecution(String federationExecutionName, List<String> fomModules, String
+         logicalTimeImplementationName) throws RTIexception;
 
-   default void createFederationExecution(String federationExecutionName, List<String> fomModules,
-         String mimModule, String logicalTimeImplementationName) throws RTIexception {
-      throw Loopback.notDone("createFederationExecution_S_URLX_URL_S");
-   }
+   void createFederationExecution(String federationExecutionName, List<String> fomModules, String
+         mimModule, String logicalTimeImplementationName) throws RTIexception;
 
-   default void destroyFederationExecution(String federationExecutionName) throws RTIexception {
-      throw Loopback.notDone("destroyFederationExecution_S");
-   }
+   void destroyFederationExecution(String federationExecutionName) throws RTIexception;
 
-   default void listFederationExecutions() throws RTIexception {
-      throw Loopback.notDone("listFederationExecutions");
-   }
+   void listFederationExecutions() throws RTIexception;
 
-   default int joinFederationExecution(String federateName, String federateType, String
-         federationExecutionName, List<String> additionalFomModules) throws RTIexception {
-      throw Loopback.notDone("joinFederationExecution_S_S_S_URLX");
-   }
+   int joinFederationExecution(String federateName, String federateType, String
+         federationExecutionName, List<String> additionalFomModules) throws RTIexception;
 
-   default int joinFederationExecution(String federateType, String federationExecutionName,
-         List<String> additionalFomModules) throws RTIexception {
-      throw Loopback.notDone("joinFederationExecution_S_S_URLX");
-   }
+   int joinFederationExecution(String federateType, String federationExecutionName, List<String>
+         additionalFomModules) throws RTIexception;
 
-   default void resignFederationExecution(int theResignAction) throws RTIexception {
-      throw Loopback.notDone("resignFederationExecution_RA");
-   }
+   void resignFederationExecution(int theResignAction) throws RTIexception;
 
-   default void registerFederationSynchronizationPoint(String label, byte[] theUserSuppliedTag)
-         throws RTIexception {
-      throw Loopback.notDone("registerFederationSynchronizationPoint_S_BX");
-   }
+   void registerFederationSynchronizationPoint(String label, byte[] theUserSuppliedTag) throws
+         RTIexception;
 
-   default void registerFederationSynchronizationPoint(String label, byte[] theUserSuppliedTag,
-         Set<Integer> synchronizationSet) throws RTIexception {
-      throw Loopback.notDone("registerFederationSynchronizationPoint_S_BX_FHS");
-   }
+   void registerFederationSynchronizationPoint(String label, byte[] theUserSuppliedTag, Set<Integer>
+         synchronizationSet) throws RTIexception;
 
-   default void synchronizationPointAchieved(String label, boolean successfully) throws RTIexception
-         {
-      throw Loopback.notDone("synchronizationPointAchieved_S_Z");
-   }
+   void synchronizationPointAchieved(String label, boolean successfully) throws RTIexception;
 
-   default void requestFederationSave(String label) throws RTIexception {
-      throw Loopback.notDone("requestFederationSave_S");
-   }
+   void requestFederationSave(String label) throws RTIexception;
 
-   default void requestFederationSave(String label, byte[] theTime) throws RTIexception {
-      throw Loopback.notDone("requestFederationSave_S_LT");
-   }
+   void requestFederationSave(String label, byte[] theTime) throws RTIexception;
 
-   default void federateSaveBegun() throws RTIexception {
-      throw Loopback.notDone("federateSaveBegun");
-   }
+   void federateSaveBegun() throws RTIexception;
 
-   default void federateSaveComplete() throws RTIexception {
-      throw Loopback.notDone("federateSaveComplete");
-   }
+   void federateSaveComplete() throws RTIexception;
 
-   default void federateSaveNotComplete() throws RTIexception {
-      throw Loopback.notDone("federateSaveNotComplete");
-   }
+   void federateSaveNotComplete() throws RTIexception;
 
-   default void abortFederationSave() throws RTIexception {
-      throw Loopback.notDone("abortFederationSave");
-   }
+   void abortFederationSave() throws RTIexception;
 
-   default void queryFederationSaveStatus() throws RTIexception {
-      throw Loopback.notDone("queryFederationSaveStatus");
-   }
+   void queryFederationSaveStatus() throws RTIexception;
 
-   default void requestFederationRestore(String label) throws RTIexception {
-      throw Loopback.notDone("requestFederationRestore_S");
-   }
+   void requestFederationRestore(String label) throws RTIexception;
 
-   default void federateRestoreComplete() throws RTIexception {
-      throw Loopback.notDone("federateRestoreComplete");
-   }
+   void federateRestoreComplete() throws RTIexception;
 
-   default void federateRestoreNotComplete() throws RTIexception {
-      throw Loopback.notDone("federateRestoreNotComplete");
-   }
+   void federateRestoreNotComplete() throws RTIexception;
 
-   default void abortFederationRestore() throws RTIexception {
-      throw Loopback.notDone("abortFederationRestore");
-   }
+   void abortFederationRestore() throws RTIexception;
 
-   default void queryFederationRestoreStatus() throws RTIexception {
-      throw Loopback.notDone("queryFederationRestoreStatus");
-   }
+   void queryFederationRestoreStatus() throws RTIexception;
 }

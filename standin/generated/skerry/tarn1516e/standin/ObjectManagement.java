@@ -7,90 +7,50 @@ import java.util.Map;
 import java.util.Set;
 
 public interface ObjectManagement {
-   default void reserveObjectInstanceName(String theName) throws RTIexception {
-      throw Loopback.notDone("reserveObjectInstanceName_S");
-   }
+   void reserveObjectInstanceName(String theName) throws RTIexception;
 
-   default void releaseObjectInstanceName(String theName) throws RTIexception {
-      throw Loopback.notDone("releaseObjectInstanceName_S");
-   }
+   void releaseObjectInstanceName(String theName) throws RTIexception;
 
-   default void reserveMultipleObjectInstanceName(Set<String> theNames) throws RTIexception {
-      throw Loopback.notDone("reserveMultipleObjectInstanceName_S");
-   }
+   void reserveMultipleObjectInstanceName(Set<String> theNames) throws RTIexception;
 
-   default void releaseMultipleObjectInstanceName(Set<String> theNames) throws RTIexception {
-      throw Loopback.notDone("releaseMultipleObjectInstanceName_S");
-   }
+   void releaseMultipleObjectInstanceName(Set<String> theNames) throws RTIexception;
 
-   default int registerObjectInstance(int theClass) throws RTIexception {
-      throw Loopback.notDone("registerObjectInstance_OCH");
-   }
+   int registerObjectInstance(int theClass) throws RTIexception;
 
-   default int registerObjectInstance(int theClass, String theName) throws RTIexception {
-      throw Loopback.notDone("registerObjectInstance_OCH_S");
-   }
+   int registerObjectInstance(int theClass, String theName) throws RTIexception;
 
-   default void updateAttributeValues(int theObject, Map<Integer, byte[]> theAttributeValues, byte[]
-         theUserSuppliedTag) throws RTIexception {
-      throw Loopback.notDone("updateAttributeValues_OIH_AHVM_BX");
-   }
+   void updateAttributeValues(int theObject, Map<Integer, byte[]> theAttributeValues, byte[]
+         theUserSuppliedTag) throws RTIexception;
 
-   default byte[] updateAttributeValues(int theObject, Map<Integer, byte[]> theAttributeValues,
-         byte[] theUserSuppliedTag, byte[] theTime) throws RTIexception {
-      throw Loopback.notDone("updateAttributeValues_OIH_AHVM_BX_LT");
-   }
+   byte[] updateAttributeValues(int theObject, Map<Integer, byte[]> theAttributeValues, byte[]
+         theUserSuppliedTag, byte[] theTime) throws RTIexception;
 
-   default void sendInteraction(int theInteraction, Map<Integer, byte[]> theParameterValues, byte[]
-         theUserSuppliedTag) throws RTIexception {
-      throw Loopback.notDone("sendInteraction_ICH_PHVM_BX");
-   }
+   void sendInteraction(int theInteraction, Map<Integer, byte[]> theParameterValues, byte[]
+         theUserSuppliedTag) throws RTIexception;
 
-   default byte[] sendInteraction(int theInteraction, Map<Integer, byte[]> theParameterValues,
-         byte[] theUserSuppliedTag, byte[] theTime) throws RTIexception {
-      throw Loopback.notDone("sendInteraction_ICH_PHVM_BX_LT");
-   }
+   byte[] sendInteraction(int theInteraction, Map<Integer, byte[]> theParameterValues, byte[]
+         theUserSuppliedTag, byte[] theTime) throws RTIexception;
 
-   default void deleteObjectInstance(int theObject, byte[] theUserSuppliedTag) throws RTIexception {
-      throw Loopback.notDone("deleteObjectInstance_OIH_BX");
-   }
+   void deleteObjectInstance(int theObject, byte[] theUserSuppliedTag) throws RTIexception;
 
-   default byte[] deleteObjectInstance(int theObject, byte[] theUserSuppliedTag, byte[] theTime)
-         throws RTIexception {
-      throw Loopback.notDone("deleteObjectInstance_OIH_BX_LT");
-   }
+   byte[] deleteObjectInstance(int theObject, byte[] theUserSuppliedTag, byte[] theTime) throws
+         RTIexception;
 
-   default void localDeleteObjectInstance(int theObject) throws RTIexception {
-      throw Loopback.notDone("localDeleteObjectInstance_OIH");
-   }
+   void localDeleteObjectInstance(int theObject) throws RTIexception;
 
-   default void requestAttributeValueUpdate_OIH_AHS_BX(int theObject, Set<Integer> theAttributes,
-         byte[] theUserSuppliedTag) throws RTIexception {
-      throw Loopback.notDone("requestAttributeValueUpdate_OIH_AHS_BX");
-   }
+   void requestAttributeValueUpdate_OIH_AHS_BX(int theObject, Set<Integer> theAttributes, byte[]
+         theUserSuppliedTag) throws RTIexception;
 
-   default void requestAttributeValueUpdate_OCH_AHS_BX(int theClass, Set<Integer> theAttributes,
-         byte[] theUserSuppliedTag) throws RTIexception {
-      throw Loopback.notDone("requestAttributeValueUpdate_OCH_AHS_BX");
-   }
+   void requestAttributeValueUpdate_OCH_AHS_BX(int theClass, Set<Integer> theAttributes, byte[]
+         theUserSuppliedTag) throws RTIexception;
 
-   default void requestAttributeTransportationTypeChange(int theObject, Set<Integer> theAttributes,
-         int theType) throws RTIexception {
-      throw Loopback.notDone("requestAttributeTransportationTypeChange_OIH_AHS_TTH");
-   }
+   void requestAttributeTransportationTypeChange(int theObject, Set<Integer> theAttributes, int
+         theType) throws RTIexception;
 
-   default void queryAttributeTransportationType(int theObject, int theAttribute) throws
-         RTIexception {
-      throw Loopback.notDone("queryAttributeTransportationType_OIH_AH");
-   }
+   void queryAttributeTransportationType(int theObject, int theAttribute) throws RTIexception;
 
-   default void requestInteractionTransportationTypeChange(int theInteraction, int theType) throws
-         RTIexception {
-      throw Loopback.notDone("requestInteractionTransportationTypeChange_ICH_TTH");
-   }
+   void requestInteractionTransportationTypeChange(int theInteraction, int theType) throws
+         RTIexception;
 
-   default void queryInteractionTransportationType(int theFederate, int theInteraction) throws
-         RTIexception {
-      throw Loopback.notDone("queryInteractionTransportationType_FH_ICH");
-   }
+   void queryInteractionTransportationType(int theFederate, int theInteraction) throws RTIexception;
 }

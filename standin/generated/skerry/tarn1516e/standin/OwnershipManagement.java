@@ -6,56 +6,34 @@ import hla.rti1516e.exceptions.RTIexception;
 import java.util.Set;
 
 public interface OwnershipManagement {
-   default void unconditionalAttributeOwnershipDivestiture(int theObject, Set<Integer>
-         theAttributes) throws RTIexception {
-      throw Loopback.notDone("unconditionalAttributeOwnershipDivestiture_OIH_AHS");
-   }
+   void unconditionalAttributeOwnershipDivestiture(int theObject, Set<Integer> theAttributes) throws
+         RTIexception;
 
-   default void negotiatedAttributeOwnershipDivestiture(int theObject, Set<Integer> theAttributes,
-         byte[] theUserSuppliedTag) throws RTIexception {
-      throw Loopback.notDone("negotiatedAttributeOwnershipDivestiture_OIH_AHS_BX");
-   }
+   void negotiatedAttributeOwnershipDivestiture(int theObject, Set<Integer> theAttributes, byte[]
+         theUserSuppliedTag) throws RTIexception;
 
-   default void confirmDivestiture(int theObject, Set<Integer> theAttributes, byte[]
-         theUserSuppliedTag) throws RTIexception {
-      throw Loopback.notDone("confirmDivestiture_OIH_AHS_BX");
-   }
+   void confirmDivestiture(int theObject, Set<Integer> theAttributes, byte[] theUserSuppliedTag)
+         throws RTIexception;
 
-   default void attributeOwnershipAcquisition(int theObject, Set<Integer> theAttributes, byte[]
-         theUserSuppliedTag) throws RTIexception {
-      throw Loopback.notDone("attributeOwnershipAcquisition_OIH_AHS_BX");
-   }
+   void attributeOwnershipAcquisition(int theObject, Set<Integer> theAttributes, byte[]
+         theUserSuppliedTag) throws RTIexception;
 
-   default void attributeOwnershipAcquisitionIfAvailable(int theObject, Set<Integer> theAttributes)
-         throws RTIexception {
-      throw Loopback.notDone("attributeOwnershipAcquisitionIfAvailable_OIH_AHS");
-   }
+   void attributeOwnershipAcquisitionIfAvailable(int theObject, Set<Integer> theAttributes) throws
+         RTIexception;
 
-   default void attributeOwnershipReleaseDenied(int theObject, Set<Integer> theAttributes) throws
-         RTIexception {
-      throw Loopback.notDone("attributeOwnershipReleaseDenied_OIH_AHS");
-   }
+   void attributeOwnershipReleaseDenied(int theObject, Set<Integer> theAttributes) throws
+         RTIexception;
 
-   default int[] attributeOwnershipDivestitureIfWanted(int theObject, Set<Integer> theAttributes)
-         throws RTIexception {
-      throw Loopback.notDone("attributeOwnershipDivestitureIfWanted_OIH_AHS");
-   }
+   int[] attributeOwnershipDivestitureIfWanted(int theObject, Set<Integer> theAttributes) throws
+         RTIexception;
 
-   default void cancelNegotiatedAttributeOwnershipDivestiture(int theObject, Set<Integer>
-         theAttributes) throws RTIexception {
-      throw Loopback.notDone("cancelNegotiatedAttributeOwnershipDivestiture_OIH_AHS");
-   }
+   void cancelNegotiatedAttributeOwnershipDivestiture(int theObject, Set<Integer> theAttributes)
+         throws RTIexception;
 
-   default void cancelAttributeOwnershipAcquisition(int theObject, Set<Integer> theAttributes)
-         throws RTIexception {
-      throw Loopback.notDone("cancelAttributeOwnershipAcquisition_OIH_AHS");
-   }
+   void cancelAttributeOwnershipAcquisition(int theObject, Set<Integer> theAttributes) throws
+         RTIexception;
 
-   default void queryAttributeOwnership(int theObject, int theAttribute) throws RTIexception {
-      throw Loopback.notDone("queryAttributeOwnership_OIH_AH");
-   }
+   void queryAttributeOwnership(int theObject, int theAttribute) throws RTIexception;
 
-   default boolean isAttributeOwnedByFederate(int theObject, int theAttribute) throws RTIexception {
-      throw Loopback.notDone("isAttributeOwnedByFederate_OIH_AH");
-   }
+   boolean isAttributeOwnedByFederate(int theObject, int theAttribute) throws RTIexception;
 }

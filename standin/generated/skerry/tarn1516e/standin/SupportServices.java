@@ -5,183 +5,93 @@ package skerry.tarn1516e.standin;
 import hla.rti1516e.exceptions.RTIexception;
 
 public interface SupportServices {
-   default int getAutomaticResignDirective() throws RTIexception {
-      throw Loopback.notDone("getAutomaticResignDirective");
-   }
+   int getAutomaticResignDirective() throws RTIexception;
 
-   default void setAutomaticResignDirective(int theResignAction) throws RTIexception {
-      throw Loopback.notDone("setAutomaticResignDirective_RA");
-   }
+   void setAutomaticResignDirective(int theResignAction) throws RTIexception;
 
-   default int getFederateHandle(String theName) throws RTIexception {
-      throw Loopback.notDone("getFederateHandle_S");
-   }
+   int getFederateHandle(String theName) throws RTIexception;
 
-   default String getFederateName(int theFederate) throws RTIexception {
-      throw Loopback.notDone("getFederateName_FH");
-   }
+   String getFederateName(int theFederate) throws RTIexception;
 
-   default int getObjectClassHandle(String theName) throws RTIexception {
-      throw Loopback.notDone("getObjectClassHandle_S");
-   }
+   int getObjectClassHandle(String theName) throws RTIexception;
 
-   default String getObjectClassName(int theClass) throws RTIexception {
-      throw Loopback.notDone("getObjectClassName_OCH");
-   }
+   String getObjectClassName(int theClass) throws RTIexception;
 
-   default int getKnownObjectClassHandle(int theObject) throws RTIexception {
-      throw Loopback.notDone("getKnownObjectClassHandle_OIH");
-   }
+   int getKnownObjectClassHandle(int theObject) throws RTIexception;
 
-   default int getObjectInstanceHandle(String theName) throws RTIexception {
-      throw Loopback.notDone("getObjectInstanceHandle_S");
-   }
+   int getObjectInstanceHandle(String theName) throws RTIexception;
 
-   default String getObjectInstanceName(int theObject) throws RTIexception {
-      throw Loopback.notDone("getObjectInstanceName_OIH");
-   }
+   String getObjectInstanceName(int theObject) throws RTIexception;
 
-   default int getAttributeHandle(int theClass, String theName) throws RTIexception {
-      throw Loopback.notDone("getAttributeHandle_OCH_S");
-   }
+   int getAttributeHandle(int theClass, String theName) throws RTIexception;
 
-   default String getAttributeName(int theClass, int theAttribute) throws RTIexception {
-      throw Loopback.notDone("getAttributeName_OCH_AH");
-   }
+   String getAttributeName(int theClass, int theAttribute) throws RTIexception;
 
-   default double getUpdateRateValue(String updateRateDesignator) throws RTIexception {
-      throw Loopback.notDone("getUpdateRateValue_S");
-   }
+   double getUpdateRateValue(String updateRateDesignator) throws RTIexception;
 
-   default double getUpdateRateValueForAttribute(int theObject, int theAttribute) throws
-         RTIexception {
-      throw Loopback.notDone("getUpdateRateValueForAttribute_OIH_AH");
-   }
+   double getUpdateRateValueForAttribute(int theObject, int theAttribute) throws RTIexception;
 
-   default int getInteractionClassHandle(String theName) throws RTIexception {
-      throw Loopback.notDone("getInteractionClassHandle_S");
-   }
+   int getInteractionClassHandle(String theName) throws RTIexception;
 
-   default String getInteractionClassName(int theInteraction) throws RTIexception {
-      throw Loopback.notDone("getInteractionClassName_ICH");
-   }
+   String getInteractionClassName(int theInteraction) throws RTIexception;
 
-   default int getParameterHandle(int theInteraction, String theName) throws RTIexception {
-      throw Loopback.notDone("getParameterHandle_ICH_S");
-   }
+   int getParameterHandle(int theInteraction, String theName) throws RTIexception;
 
-   default String getParameterName(int theInteraction, int theParameter) throws RTIexception {
-      throw Loopback.notDone("getParameterName_ICH_PH");
-   }
+   String getParameterName(int theInteraction, int theParameter) throws RTIexception;
 
-   default int getOrderType(String theName) throws RTIexception {
-      throw Loopback.notDone("getOrderType_S");
-   }
+   int getOrderType(String theName) throws RTIexception;
 
-   default String getOrderName(int theOrder) throws RTIexception {
-      throw Loopback.notDone("getOrderName_OT");
-   }
+   String getOrderName(int theOrder) throws RTIexception;
 
-   default int getTransportationTypeHandle(String theName) throws RTIexception {
-      throw Loopback.notDone("getTransportationTypeHandle_S");
-   }
+   int getTransportationTypeHandle(String theName) throws RTIexception;
 
-   default String getTransportationTypeName(int theType) throws RTIexception {
-      throw Loopback.notDone("getTransportationTypeName_TTH");
-   }
+   String getTransportationTypeName(int theType) throws RTIexception;
 
-   default int[] getAvailableDimensionsForClassAttribute(int theClass, int theAttribute) throws
-         RTIexception {
-      throw Loopback.notDone("getAvailableDimensionsForClassAttribute_OCH_AH");
-   }
+   int[] getAvailableDimensionsForClassAttribute(int theClass, int theAttribute) throws
+         RTIexception;
 
-   default int[] getAvailableDimensionsForInteractionClass(int theInteraction) throws RTIexception {
-      throw Loopback.notDone("getAvailableDimensionsForInteractionClass_ICH");
-   }
+   int[] getAvailableDimensionsForInteractionClass(int theInteraction) throws RTIexception;
 
-   default int getDimensionHandle(String theName) throws RTIexception {
-      throw Loopback.notDone("getDimensionHandle_S");
-   }
+   int getDimensionHandle(String theName) throws RTIexception;
 
-   default String getDimensionName(int theDimension) throws RTIexception {
-      throw Loopback.notDone("getDimensionName_DH");
-   }
+   String getDimensionName(int theDimension) throws RTIexception;
 
-   default long getDimensionUpperBound(int theDimension) throws RTIexception {
-      throw Loopback.notDone("getDimensionUpperBound_DH");
-   }
+   long getDimensionUpperBound(int theDimension) throws RTIexception;
 
-   default int[] getDimensionHandleSet(int theRegion) throws RTIexception {
-      throw Loopback.notDone("getDimensionHandleSet_RH");
-   }
+   int[] getDimensionHandleSet(int theRegion) throws RTIexception;
 
-   default long[] getRangeBounds(int theRegion, int theDimension) throws RTIexception {
-      throw Loopback.notDone("getRangeBounds_RH_DH");
-   }
+   long[] getRangeBounds(int theRegion, int theDimension) throws RTIexception;
 
-   default void setRangeBounds(int theRegion, int theDimension, Range theRangeBounds) throws
-         RTIexception {
-      throw Loopback.notDone("setRangeBounds_RH_DH_RB");
-   }
+   void setRangeBounds(int theRegion, int theDimension, Range theRangeBounds) throws RTIexception;
 
-   default long normalizeFederateHandle(int theFederate) throws RTIexception {
-      throw Loopback.notDone("normalizeFederateHandle_FH");
-   }
+   long normalizeFederateHandle(int theFederate) throws RTIexception;
 
-   default long normalizeServiceGroup(int theServiceGroup) throws RTIexception {
-      throw Loopback.notDone("normalizeServiceGroup_SG");
-   }
+   long normalizeServiceGroup(int theServiceGroup) throws RTIexception;
 
-   default void enableObjectClassRelevanceAdvisorySwitch() throws RTIexception {
-      throw Loopback.notDone("enableObjectClassRelevanceAdvisorySwitch");
-   }
+   void enableObjectClassRelevanceAdvisorySwitch() throws RTIexception;
 
-   default void disableObjectClassRelevanceAdvisorySwitch() throws RTIexception {
-      throw Loopback.notDone("disableObjectClassRelevanceAdvisorySwitch");
-   }
+   void disableObjectClassRelevanceAdvisorySwitch() throws RTIexception;
 
-   default void enableAttributeRelevanceAdvisorySwitch() throws RTIexception {
-      throw Loopback.notDone("enableAttributeRelevanceAdvisorySwitch");
-   }
+   void enableAttributeRelevanceAdvisorySwitch() throws RTIexception;
 
-   default void disableAttributeRelevanceAdvisorySwitch() throws RTIexception {
-      throw Loopback.notDone("disableAttributeRelevanceAdvisorySwitch");
-   }
+   void disableAttributeRelevanceAdvisorySwitch() throws RTIexception;
 
-   default void enableAttributeScopeAdvisorySwitch() throws RTIexception {
-      throw Loopback.notDone("enableAttributeScopeAdvisorySwitch");
-   }
+   void enableAttributeScopeAdvisorySwitch() throws RTIexception;
 
-   default void disableAttributeScopeAdvisorySwitch() throws RTIexception {
-      throw Loopback.notDone("disableAttributeScopeAdvisorySwitch");
-   }
+   void disableAttributeScopeAdvisorySwitch() throws RTIexception;
 
-   default void enableInteractionRelevanceAdvisorySwitch() throws RTIexception {
-      throw Loopback.notDone("enableInteractionRelevanceAdvisorySwitch");
-   }
+   void enableInteractionRelevanceAdvisorySwitch() throws RTIexception;
 
-   default void disableInteractionRelevanceAdvisorySwitch() throws RTIexception {
-      throw Loopback.notDone("disableInteractionRelevanceAdvisorySwitch");
-   }
+   void disableInteractionRelevanceAdvisorySwitch() throws RTIexception;
 
-   default boolean evokeCallback(double approximateMinimumTimeInSeconds) throws RTIexception {
-      throw Loopback.notDone("evokeCallback_D");
-   }
+   boolean evokeCallback(double approximateMinimumTimeInSeconds) throws RTIexception;
 
-   default boolean evokeMultipleCallbacks(double approximateMinimumTimeInSeconds, double
-         approximateMaximumTimeInSeconds) throws RTIexception {
-      throw Loopback.notDone("evokeMultipleCallbacks_D_D");
-   }
+   boolean evokeMultipleCallbacks(double approximateMinimumTimeInSeconds, double
+         approximateMaximumTimeInSeconds) throws RTIexception;
 
-   default void enableCallbacks() throws RTIexception {
-      throw Loopback.notDone("enableCallbacks");
-   }
+   void enableCallbacks() throws RTIexception;
 
-   default void disableCallbacks() throws RTIexception {
-      throw Loopback.notDone("disableCallbacks");
-   }
+   void disableCallbacks() throws RTIexception;
 
-   default String getTimeFactory() throws RTIexception {
-      throw Loopback.notDone("getTimeFactory");
-   }
+   String getTimeFactory() throws RTIexception;
 }

@@ -6,80 +6,42 @@ import hla.rti1516e.exceptions.RTIexception;
 import java.util.Set;
 
 public interface TimeManagement {
-   default void enableTimeRegulation(byte[] theLookahead) throws RTIexception {
-      throw Loopback.notDone("enableTimeRegulation_LTI");
-   }
+   void enableTimeRegulation(byte[] theLookahead) throws RTIexception;
 
-   default void disableTimeRegulation() throws RTIexception {
-      throw Loopback.notDone("disableTimeRegulation");
-   }
+   void disableTimeRegulation() throws RTIexception;
 
-   default void enableTimeConstrained() throws RTIexception {
-      throw Loopback.notDone("enableTimeConstrained");
-   }
+   void enableTimeConstrained() throws RTIexception;
 
-   default void disableTimeConstrained() throws RTIexception {
-      throw Loopback.notDone("disableTimeConstrained");
-   }
+   void disableTimeConstrained() throws RTIexception;
 
-   default void timeAdvanceRequest(byte[] theTime) throws RTIexception {
-      throw Loopback.notDone("timeAdvanceRequest_LT");
-   }
+   void timeAdvanceRequest(byte[] theTime) throws RTIexception;
 
-   default void timeAdvanceRequestAvailable(byte[] theTime) throws RTIexception {
-      throw Loopback.notDone("timeAdvanceRequestAvailable_LT");
-   }
+   void timeAdvanceRequestAvailable(byte[] theTime) throws RTIexception;
 
-   default void nextMessageRequest(byte[] theTime) throws RTIexception {
-      throw Loopback.notDone("nextMessageRequest_LT");
-   }
+   void nextMessageRequest(byte[] theTime) throws RTIexception;
 
-   default void nextMessageRequestAvailable(byte[] theTime) throws RTIexception {
-      throw Loopback.notDone("nextMessageRequestAvailable_LT");
-   }
+   void nextMessageRequestAvailable(byte[] theTime) throws RTIexception;
 
-   default void flushQueueRequest(byte[] theTime) throws RTIexception {
-      throw Loopback.notDone("flushQueueRequest_LT");
-   }
+   void flushQueueRequest(byte[] theTime) throws RTIexception;
 
-   default void enableAsynchronousDelivery() throws RTIexception {
-      throw Loopback.notDone("enableAsynchronousDelivery");
-   }
+   void enableAsynchronousDelivery() throws RTIexception;
 
-   default void disableAsynchronousDelivery() throws RTIexception {
-      throw Loopback.notDone("disableAsynchronousDelivery");
-   }
+   void disableAsynchronousDelivery() throws RTIexception;
 
-   default byte[] queryGALT() throws RTIexception {
-      throw Loopback.notDone("queryGALT");
-   }
+   byte[] queryGALT() throws RTIexception;
 
-   default byte[] queryLogicalTime() throws RTIexception {
-      throw Loopback.notDone("queryLogicalTime");
-   }
+   byte[] queryLogicalTime() throws RTIexception;
 
-   default byte[] queryLITS() throws RTIexception {
-      throw Loopback.notDone("queryLITS");
-   }
+   byte[] queryLITS() throws RTIexception;
 
-   default void modifyLookahead(byte[] theLookahead) throws RTIexception {
-      throw Loopback.notDone("modifyLookahead_LTI");
-   }
+   void modifyLookahead(byte[] theLookahead) throws RTIexception;
 
-   default byte[] queryLookahead() throws RTIexception {
-      throw Loopback.notDone("queryLookahead");
-   }
+   byte[] queryLookahead() throws RTIexception;
 
-   default void retract(int theHandle) throws RTIexception {
-      throw Loopback.notDone("retract_MRH");
-   }
+   void retract(int theHandle) throws RTIexception;
 
-   default void changeAttributeOrderType(int theObject, Set<Integer> theAttributes, int theOrder)
-         throws RTIexception {
-      throw Loopback.notDone("changeAttributeOrderType_OIH_AHS_OT");
-   }
+   void changeAttributeOrderType(int theObject, Set<Integer> theAttributes, int theOrder) throws
+         RTIexception;
 
-   default void changeInteractionOrderType(int theInteraction, int theOrder) throws RTIexception {
-      throw Loopback.notDone("changeInteractionOrderType_ICH_OT");
-   }
+   void changeInteractionOrderType(int theInteraction, int theOrder) throws RTIexception;
 }

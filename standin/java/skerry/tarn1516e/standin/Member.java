@@ -1,0 +1,92 @@
+// A federate that has joined a federation.
+package skerry.tarn1516e.standin;
+
+import java.util.EnumSet;
+import java.util.HashSet;
+import java.util.Set;
+
+final class Member {
+   enum Advisory {
+      OBJECT_CLASS_RELEVANCE,
+      ATTRIBUTE_RELEVANCE,
+      ATTRIBUTE_SCOPE,
+      INTERACTION_RELEVANCE
+   }
+
+   private final int _handle;
+   private final String _name;
+   private final String _type;
+   private final Federation _federation;
+   private final Loopback _loopback;
+   private final CallbackQueue _callbacks;
+   private final Declarations _declarations = new Declarations();
+   private final InstanceAdvisories _instanceAdvisories;
+   private final TimeState _time;
+
+   final Set<Advisory> advisories = EnumSet.noneOf(Advisory.class);
+   final Set<String> reservedNames = new HashSet<>();
+   int resignDirective = Resignation.CANCEL_THEN_DELETE_THEN_DIVEST;
+
+   Member(int handle, String name, String type, Federation federation, Loopback loopback,
+         CallbackQueue callbacks) {
+      _handle = handle;
+      _name = name;
+      _type = type;
+      _federation = federation;
+      _loopback = loopback;
+      _callbacks = callbacks;
+      _instanceAdvisories = new InstanceAdvisories(this);
+      _time = new TimeState(this);
+      Fom fom = federation.fom();
+      adopt(Advisory.OBJECT_CLASS_RELEVANCE, fom.isSwitchedOn("objectClassRelevanceAdvisory", true));
+      adopt(Advisory.INTERACTION_RELEVANCE, fom.isSwitchedOn("interactionRelevanceAdvisory", true));
+      adopt(Advisory.ATTRIBUTE_RELEVANCE, fom.isSwitchedOn("attributeRelevanceAdvisory", false));
+      adopt(Advisory.ATTRIBUTE_SCOPE, fom.isSwitchedOn("attributeScopeAdvisory", false));
+   }
+
+   private void adopt(Advisory advisory, boolean isOn) {
+      if (isOn) {
+         advisories.add(advisory);
+      }
+   }
+
+   int handle() {
+      return _handle;
+   }
+
+   String name() {
+      return _name;
+   }
+
+   String type() {
+      return _type;
+   }
+
+   Federation federation() {
+      return _federation;
+   }
+
+   Loopback loopback() {
+      return _loopback;
+   }
+
+   CallbackQueue callbacks() {
+      return _callbacks;
+   }
+
+   Declarations declarations() {
+      return _declarations;
+   }
+
+   InstanceAdvisories instanceAdvisories() {
+      return _instanceAdvisories;
+   }
+
+   TimeState time() {
+      return _time;
+   }
+
+   boolean isAdvised(Advisory advisory) {
+      return advisories.contains(advisory);
+   }
+}

@@ -1,0 +1,58 @@
+// A synchronization point that is announced and not yet reached by all.
+package skerry.tarn1516e.standin;
+
+import java.util.HashSet;
+import java.util.LinkedHashSet;
+import java.util.Set;
+import java.util.TreeSet;
+
+final class SyncPoint {
+   final String label;
+   final byte[] tag;
+
+   /** Whether members that join later take part. */
+   final boolean isForAll;
+
+   private final Set<Member> _members = new LinkedHashSet<>();
+   private final Set<Member> _reached = new HashSet<>();
+   private final Set<Integer> _failed = new TreeSet<>();
+
+   SyncPoint(String label, byte[] tag, boolean isForAll) {
+      this.label = label;
+      this.tag = tag;
+      this.isForAll = isForAll;
+   }
+
+   void announceTo(Member member) {
+      _members.add(member);
+      member.callbacks().announceSynchronizationPoint(label, tag);
+   }
+
+   boolean isAwaitedOf(Member member) {
+      return _members.contains(member) && !_reached.contains(member);
+   }
+
+   void reach(Member member, boolean isSuccess) {
+      _reached.add(member);
+      if (!isSuccess) {
+         _failed.add(member.handle());
+      }
+   }
+
+   void remove(Member member) {
+      _members.remove(member);
+      _reached.remove(member);
+      _failed.remove(member.handle());
+   }
+
+   /** Tells all members if no one is awaited any more. */
+   boolean finishIfReached() {
+      if (_reached.size() < _members.size()) {
+         return false;
+      }
+      for (Member member : _members) {
+         member.callbacks().federationSynchronized(label, _failed);
+      }
+      return true;
+   }
+}
