@@ -52,8 +52,8 @@ def _parameters(service, shorten=lambda text: text):
 
 HEADER = """
 // The bridge object: one Java object, and every service as one call of a method on it.
-#ifndef TARN1516E_GEN_RTIAMBASSADORC_H
-#define TARN1516E_GEN_RTIAMBASSADORC_H
+#ifndef gen_RTIambassadorC_h
+#define gen_RTIambassadorC_h
 
 #include "gen/cpp/FederateAmbassadorHelper.h"
 #include <RTI/Enums.h>

@@ -1,6 +1,6 @@
 // The library's assertions: live in every build, told in the platform's own words.
-#ifndef TARN1516E_JVM_ASSERT_H
-#define TARN1516E_JVM_ASSERT_H
+#ifndef jvm_Assert_h
+#define jvm_Assert_h
 
 namespace tarn1516e {
 

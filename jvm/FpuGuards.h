@@ -1,8 +1,8 @@
 // Guards at the crossings between the federate's code and the VM. On x86-64 and arm64 the VM
 // leaves the floating-point control state alone, so there is nothing to save or restore; the
 // guards mark the places for a platform where there is.
-#ifndef TARN1516E_JVM_FPUGUARDS_H
-#define TARN1516E_JVM_FPUGUARDS_H
+#ifndef jvm_FpuGuards_h
+#define jvm_FpuGuards_h
 
 namespace tarn1516e {
 

@@ -1,6 +1,6 @@
 // The Java VM of the process: found, loaded, started or joined at first use, and never let go.
-#ifndef TARN1516E_JVM_JVM_H
-#define TARN1516E_JVM_JVM_H
+#ifndef jvm_JVM_h
+#define jvm_JVM_h
 
 #include <jni.h>
 #include <RTI/SpecificConfig.h>

@@ -1,6 +1,6 @@
 // Java strings as wide strings.
-#ifndef TARN1516E_JVM_JAVASTRING_H
-#define TARN1516E_JVM_JAVASTRING_H
+#ifndef jvm_JavaString_h
+#define jvm_JavaString_h
 
 #include <jni.h>
 #include <string>

@@ -1,6 +1,6 @@
 // What differs from one platform to the next, all of it.
-#ifndef TARN1516E_JVM_PLATFORM_H
-#define TARN1516E_JVM_PLATFORM_H
+#ifndef jvm_Platform_h
+#define jvm_Platform_h
 
 namespace tarn1516e {
 

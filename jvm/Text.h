@@ -1,6 +1,6 @@
 // Texts of start-up and its failures: formatting, and the two widths of character.
-#ifndef TARN1516E_JVM_TEXT_H
-#define TARN1516E_JVM_TEXT_H
+#ifndef jvm_Text_h
+#define jvm_Text_h
 
 #include <string>
 

@@ -1,6 +1,6 @@
 // A federate of the harbour: joins, sails or signals for some time steps, and resigns.
-#ifndef HARBOUR_FEDERATE_H
-#define HARBOUR_FEDERATE_H
+#ifndef harbour_Federate_h
+#define harbour_Federate_h
 
 #include "Ledger.h"
 

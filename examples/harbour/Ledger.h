@@ -1,6 +1,6 @@
 // What was sent, what arrived of it, and everything that the demonstration prints.
-#ifndef HARBOUR_LEDGER_H
-#define HARBOUR_LEDGER_H
+#ifndef harbour_Ledger_h
+#define harbour_Ledger_h
 
 #include "Values.h"
 

@@ -1,6 +1,6 @@
 // What the federates of the harbour tell each other, and how it is encoded.
-#ifndef HARBOUR_VALUES_H
-#define HARBOUR_VALUES_H
+#ifndef harbour_Values_h
+#define harbour_Values_h
 
 #include <RTI/VariableLengthData.h>
 

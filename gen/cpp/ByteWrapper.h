@@ -1,6 +1,6 @@
 // The cursor over the byte array in which arguments cross to Java and back.
-#ifndef TARN1516E_GEN_BYTEWRAPPER_H
-#define TARN1516E_GEN_BYTEWRAPPER_H
+#ifndef gen_ByteWrapper_h
+#define gen_ByteWrapper_h
 
 #include <cstring>
 

@@ -5,8 +5,8 @@
 //    4 bytes   handle of the ambassador, as connect sent it
 //              the callback's fields
 //    4 bytes   POST_MAGIC
-#ifndef TARN1516E_GEN_CALLBACKFRAME_H
-#define TARN1516E_GEN_CALLBACKFRAME_H
+#ifndef gen_CallbackFrame_h
+#define gen_CallbackFrame_h
 
 #include "bridge/JavaExceptions.h"
 #include "gen/cpp/ByteWrapper.h"

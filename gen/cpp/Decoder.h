@@ -12,8 +12,8 @@
 //
 // A flag is true when it is not 0. A count of 0 or below is no element. Nothing is bounded by the
 // array's length; nothing refers to the array afterwards. No decoder may call the VM.
-#ifndef TARN1516E_GEN_DECODER_H
-#define TARN1516E_GEN_DECODER_H
+#ifndef gen_Decoder_h
+#define gen_Decoder_h
 
 #include "api/HandleFriends.h"
 #include "gen/cpp/ByteWrapper.h"

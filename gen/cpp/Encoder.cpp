@@ -85,7 +85,7 @@ std::wstring returnString(JNIEnv* env, jstring text)
       return make##H(value);                                                                       \
    }
 
-TARN_FOR_EACH_HANDLE(TARN_RETURN_HANDLE)
+RTI_FOR_EACH_HANDLE(TARN_RETURN_HANDLE)
 
 OrderType returnOrderType(JNIEnv*, int code)
 {

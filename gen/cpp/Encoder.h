@@ -16,8 +16,8 @@
 //    RB                           lower and upper bound, 8 bytes each
 //    LT, LTI                      the bytes of the value's encode(), with no length
 //    MRH                          the handle's id, then BX
-#ifndef TARN1516E_GEN_ENCODER_H
-#define TARN1516E_GEN_ENCODER_H
+#ifndef gen_Encoder_h
+#define gen_Encoder_h
 
 #include "api/HandleFriends.h"
 #include "gen/cpp/ByteWrapper.h"
@@ -269,24 +269,13 @@ int handleValue(Handle const& handle)
    return static_cast<int>(reinterpret_cast<std::uintptr_t>(Friend::getImplementation(handle)));
 }
 
-// Each handle class with its way to the integer.
-#define TARN_FOR_EACH_HANDLE(X)                                                                    \
-   X(FederateHandle)                                                                               \
-   X(ObjectClassHandle)                                                                            \
-   X(InteractionClassHandle)                                                                       \
-   X(ObjectInstanceHandle)                                                                         \
-   X(AttributeHandle)                                                                              \
-   X(ParameterHandle)                                                                              \
-   X(DimensionHandle)                                                                              \
-   X(RegionHandle)
-
 #define TARN_PUT_HANDLE(H)                                                                         \
    inline void putHandle(rti1516e::ByteWrapper& buffer, rti1516e::H const& handle)                 \
    {                                                                                               \
       buffer.putInt(handleValue<rti1516e::H##Friend>(handle));                                     \
    }
 
-TARN_FOR_EACH_HANDLE(TARN_PUT_HANDLE)
+RTI_FOR_EACH_HANDLE(TARN_PUT_HANDLE)
 #undef TARN_PUT_HANDLE
 
 template <class T>
@@ -467,7 +456,7 @@ double returnDouble(JNIEnv*, double value);
 std::wstring returnString(JNIEnv* env, jstring text);
 
 #define TARN_RETURN_HANDLE(H) rti1516e::H return##H(JNIEnv*, int value);
-TARN_FOR_EACH_HANDLE(TARN_RETURN_HANDLE)
+RTI_FOR_EACH_HANDLE(TARN_RETURN_HANDLE)
 #undef TARN_RETURN_HANDLE
 
 rti1516e::OrderType returnOrderType(JNIEnv*, int code);

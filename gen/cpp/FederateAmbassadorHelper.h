@@ -1,6 +1,6 @@
 // What a callback needs of its ambassador.
-#ifndef TARN1516E_GEN_FEDERATEAMBASSADORHELPER_H
-#define TARN1516E_GEN_FEDERATEAMBASSADORHELPER_H
+#ifndef gen_FederateAmbassadorHelper_h
+#define gen_FederateAmbassadorHelper_h
 
 #include "gen/cpp/ByteWrapper.h"
 #include <RTI/FederateAmbassador.h>

@@ -1,6 +1,6 @@
 // The integers that stand for ambassadors in the byte arrays that cross to Java and back.
-#ifndef TARN1516E_GEN_HANDLETABLE_H
-#define TARN1516E_GEN_HANDLETABLE_H
+#ifndef gen_HandleTable_h
+#define gen_HandleTable_h
 
 // Takes the next free slot for the pointer. With all 4096 taken: a message, and 0; the first handle
 // is 1, and 0 comes last of all. Every connect takes a slot; none is given back, so that a process

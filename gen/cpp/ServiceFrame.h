@@ -1,6 +1,6 @@
 // What every service does on its way to Java: its arguments go into one byte array.
-#ifndef TARN1516E_GEN_SERVICEFRAME_H
-#define TARN1516E_GEN_SERVICEFRAME_H
+#ifndef gen_ServiceFrame_h
+#define gen_ServiceFrame_h
 
 #include "gen/cpp/ByteWrapper.h"
 
