@@ -6,6 +6,10 @@
 #include <RTI/SpecificConfig.h>
 #include <RTI/time/HLAfloat64Interval.h>
 
+#if __cplusplus >= 202002L
+#include <concepts>
+#endif
+
 RTI_BEGIN_INTERFACE
 
 namespace rti1516e {
@@ -73,8 +77,10 @@ public:
    operator double() const;
 
 #if __cplusplus >= 202002L
-   // This language version tries the operands in either order: for two of this class, both as good.
-   bool operator==(HLAfloat64Time const& value) const
+   // This language version tries the operands in either order and finds both as good for two of the
+   // class. It must take no operand that converts to the class: a number is compared with a number.
+   template <std::same_as<HLAfloat64Time> Same>
+   bool operator==(Same const& value) const
    {
       return *this == static_cast<LogicalTime const&>(value);
    }

@@ -6,6 +6,10 @@
 #include <RTI/SpecificConfig.h>
 #include <RTI/time/HLAinteger64Interval.h>
 
+#if __cplusplus >= 202002L
+#include <concepts>
+#endif
+
 RTI_BEGIN_INTERFACE
 
 namespace rti1516e {
@@ -70,8 +74,10 @@ public:
    operator long long() const;
 
 #if __cplusplus >= 202002L
-   // This language version tries the operands in either order: for two of this class, both as good.
-   bool operator==(HLAinteger64Time const& value) const
+   // This language version tries the operands in either order and finds both as good for two of the
+   // class. It must take no operand that converts to the class: a number is compared with a number.
+   template <std::same_as<HLAinteger64Time> Same>
+   bool operator==(Same const& value) const
    {
       return *this == static_cast<LogicalTime const&>(value);
    }
