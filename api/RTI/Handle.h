@@ -2,9 +2,10 @@
 #ifndef RTI_Handle_h
 #define RTI_Handle_h
 
+#include <RTI/SpecificConfig.h>
+
 #include <iosfwd>
 #include <RTI/Exception.h>
-#include <RTI/SpecificConfig.h>
 #include <RTI/VariableLengthData.h>
 #include <string>
 

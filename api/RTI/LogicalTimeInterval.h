@@ -2,10 +2,11 @@
 #ifndef RTI_LogicalTimeInterval_h
 #define RTI_LogicalTimeInterval_h
 
+#include <RTI/SpecificConfig.h>
+
 #include <cstddef>
 #include <iosfwd>
 #include <RTI/Exception.h>
-#include <RTI/SpecificConfig.h>
 #include <RTI/VariableLengthData.h>
 #include <string>
 

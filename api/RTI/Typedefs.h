@@ -2,10 +2,11 @@
 #ifndef RTI_Typedefs_h
 #define RTI_Typedefs_h
 
+#include <RTI/SpecificConfig.h>
+
 #include <map>
 #include <RTI/Enums.h>
 #include <RTI/Handle.h>
-#include <RTI/SpecificConfig.h>
 #include <RTI/VariableLengthData.h>
 #include <set>
 #include <string>
