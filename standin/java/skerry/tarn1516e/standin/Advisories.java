@@ -65,8 +65,8 @@ final class Advisories {
       declarations.toSend.addAll(wanted);
    }
 
-   /** Whether somebody else has actively subscribed to a published attribute, of the class or of one
-       above it. */
+   /** Whether somebody else has actively subscribed to a published attribute, of the class or of
+       one above it. */
    private boolean isWanted(Member publisher, int published) {
       Set<Integer> attributes = publisher.declarations().published.get(published);
       for (Member member : _federation.members()) {

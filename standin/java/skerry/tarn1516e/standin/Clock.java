@@ -113,9 +113,9 @@ final class Clock {
       return waiting == null ? to : LogicalTime.earlier(to, waiting);
    }
 
-   /** What each regulating member may send at the least. A member on its way to its next message may
-       be granted less than it asked for, down to what others may send to it: the bounds begin with
-       what was asked for and fall until they agree. */
+   /** What each regulating member may send at the least. A member on its way to its next message
+       may be granted less than it asked for, down to what others may send to it: the bounds begin
+       with what was asked for and fall until they agree. */
    private Map<Member, Bound> sendBounds() {
       Map<Member, Bound> bounds = new HashMap<>();
       for (Member member : _federation.members()) {

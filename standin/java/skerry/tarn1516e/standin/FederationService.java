@@ -179,8 +179,8 @@ final class FederationService implements FederationManagement {
 
    /** An empty set means all members, those too that join before all have reached the point. */
    @Override
-   public void registerFederationSynchronizationPoint(String label, byte[] tag, Set<Integer> handles)
-         throws RTIexception {
+   public void registerFederationSynchronizationPoint(
+         String label, byte[] tag, Set<Integer> handles) throws RTIexception {
       Member member = _loopback.workingMember();
       Federation federation = member.federation();
       for (int handle : handles) {

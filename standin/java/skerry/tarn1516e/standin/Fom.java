@@ -118,8 +118,8 @@ final class Fom {
 
    /** What is there without any module. */
    Fom() {
-      addAttribute(addObjectClass(OBJECT_ROOT, null), PRIVILEGE_TO_DELETE);
-      addInteractionClass(INTERACTION_ROOT, null);
+      addAttribute(addObjectClass(OBJECT_ROOT, null), PRIVILEGE_TO_DELETE).order = TIMESTAMP;
+      addInteractionClass(INTERACTION_ROOT, null).order = TIMESTAMP;
    }
 
    /** By the full name or by the name without the root. */

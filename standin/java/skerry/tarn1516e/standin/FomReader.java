@@ -1,5 +1,5 @@
-// Reads the XML modules of an object model, in the order given, into one model. A class may stand in
-// several modules: either without attributes of its own, or with the same ones.
+// Reads the XML modules of an object model, in the order given, into one model. A class may stand
+// in several modules: either without attributes of its own, or with the same ones.
 package skerry.tarn1516e.standin;
 
 import hla.rti1516e.exceptions.CouldNotOpenFDD;

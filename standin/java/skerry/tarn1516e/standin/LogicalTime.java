@@ -1,5 +1,5 @@
-// A logical time or an interval, of the type that the federation was made with: 8 bytes, big-endian,
-// an IEEE double for HLAfloat64Time and a signed integer for every other type.
+// A logical time or an interval, of the type that the federation was made with: 8 bytes,
+// big-endian, an IEEE double for HLAfloat64Time and a signed integer for every other type.
 package skerry.tarn1516e.standin;
 
 import java.nio.ByteBuffer;

@@ -37,15 +37,14 @@ final class Member {
       _callbacks = callbacks;
       _instanceAdvisories = new InstanceAdvisories(this);
       _time = new TimeState(this);
-      Fom fom = federation.fom();
-      adopt(Advisory.OBJECT_CLASS_RELEVANCE, fom.isSwitchedOn("objectClassRelevanceAdvisory", true));
-      adopt(Advisory.INTERACTION_RELEVANCE, fom.isSwitchedOn("interactionRelevanceAdvisory", true));
-      adopt(Advisory.ATTRIBUTE_RELEVANCE, fom.isSwitchedOn("attributeRelevanceAdvisory", false));
-      adopt(Advisory.ATTRIBUTE_SCOPE, fom.isSwitchedOn("attributeScopeAdvisory", false));
+      adopt(Advisory.OBJECT_CLASS_RELEVANCE, "objectClassRelevanceAdvisory", true);
+      adopt(Advisory.INTERACTION_RELEVANCE, "interactionRelevanceAdvisory", true);
+      adopt(Advisory.ATTRIBUTE_RELEVANCE, "attributeRelevanceAdvisory", false);
+      adopt(Advisory.ATTRIBUTE_SCOPE, "attributeScopeAdvisory", false);
    }
 
-   private void adopt(Advisory advisory, boolean isOn) {
-      if (isOn) {
+   private void adopt(Advisory advisory, String fomSwitch, boolean otherwise) {
+      if (_federation.fom().isSwitchedOn(fomSwitch, otherwise)) {
          advisories.add(advisory);
       }
    }

@@ -90,8 +90,8 @@ final class ObjectService implements ObjectManagement {
       return made;
    }
 
-   /** Makes an instance that nobody has been told of yet. Without a name it gets one that nobody can
-       reserve. */
+   /** Makes an instance that nobody has been told of yet. Without a name it gets one that nobody
+       can reserve. */
    static ObjectInstance make(Member member, int objectClass, String name) throws RTIexception {
       Fom.ObjectClass found = Checks.objectClass(member, objectClass);
       if (!member.declarations().published.containsKey(objectClass)) {

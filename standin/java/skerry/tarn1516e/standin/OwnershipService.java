@@ -29,7 +29,8 @@ final class OwnershipService implements OwnershipManagement {
    /** The member gives up the attributes: to those who wait for them, or else to nobody, and then
        others are asked whether they want them. */
    static void release(ObjectInstance instance, Set<Integer> attributes, Member member) {
-      Set<Integer> free = Advisories.minus(attributes, passToAcquirers(instance, attributes, NO_TAG));
+      Set<Integer> passed = passToAcquirers(instance, attributes, NO_TAG);
+      Set<Integer> free = Advisories.minus(attributes, passed);
       free.forEach(attribute -> instance.attributes.get(attribute).pass(null));
       offer(instance, free, member, NO_TAG);
    }

@@ -1,5 +1,5 @@
-// Leads the members of a federation through a save or a restore. Nothing is stored: a save keeps its
-// label and who took part, and a restore changes no state.
+// Leads the members of a federation through a save or a restore. Nothing is stored: a save keeps
+// its label and who took part, and a restore changes no state.
 package skerry.tarn1516e.standin;
 
 import hla.rti1516e.exceptions.*;

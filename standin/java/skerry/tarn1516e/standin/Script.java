@@ -14,9 +14,10 @@ public final class Script {
    /** Whether services have to ask the script at all; all that an unscripted service costs. */
    public static volatile boolean isOn;
 
-   /** What a method answers. An absent value is 0, false or null by the method's type. */
+   /** What a method answers. The default is 0, false, null or "" by the method's type. */
    public static final class Answer {
-      private static final Answer DEFAULT = new Answer(null, null, true);
+      private static final Object NOTHING = new Object();
+      private static final Answer DEFAULT = new Answer(NOTHING, null, true);
 
       private final Object _value;
       private final Throwable _thrown;
@@ -29,36 +30,39 @@ public final class Script {
       }
 
       public int asInt() {
-         return _value == null ? 0 : (Integer) _value;
+         return isDefault() ? 0 : (Integer) _value;
       }
 
       public long asLong() {
-         return _value == null ? 0 : (Long) _value;
+         return isDefault() ? 0 : (Long) _value;
       }
 
       public double asDouble() {
-         return _value == null ? 0 : (Double) _value;
+         return isDefault() ? 0 : (Double) _value;
       }
 
       public boolean asBoolean() {
-         return _value != null && (Boolean) _value;
+         return !isDefault() && (Boolean) _value;
       }
 
-      /** A string result is never null unless the script says so. */
       public String asString() {
-         return this == DEFAULT ? "" : (String) _value;
+         return isDefault() ? "" : (String) _value;
       }
 
       public byte[] asBytes() {
-         return (byte[]) _value;
+         return isDefault() ? null : (byte[]) _value;
       }
 
       public int[] asInts() {
-         return (int[]) _value;
+         return isDefault() ? null : (int[]) _value;
       }
 
       public long[] asLongs() {
-         return (long[]) _value;
+         return isDefault() ? null : (long[]) _value;
+      }
+
+      private boolean isDefault() {
+         return _value == NOTHING;
       }
    }
 
@@ -146,9 +150,9 @@ public final class Script {
       add(method, new Answer(value, null, always));
    }
 
-   /** Answers 0, null, "" or false. Void methods need this one. */
+   /** Answers 0, null, "" or false; the one for void methods. */
    public static void answerDefault(String method, boolean always) {
-      add(method, always ? Answer.DEFAULT : new Answer(null, null, false));
+      add(method, new Answer(Answer.NOTHING, null, always));
    }
 
    /** Throws an exception of the class, which has a constructor from a message or else one from

@@ -73,9 +73,10 @@ final class Traffic {
    void update(ObjectInstance instance, Map<Integer, byte[]> values, byte[] tag) {
       _federation.discovery().discover(instance);
       Map<Passage, Map<Integer, byte[]>> passages = new LinkedHashMap<>();
-      values.forEach((attribute, value) -> passages
-            .computeIfAbsent(new Passage(instance.attributes.get(attribute)), k -> new TreeMap<>())
-            .put(attribute, value));
+      values.forEach((attribute, value) -> {
+         Passage passage = new Passage(instance.attributes.get(attribute));
+         passages.computeIfAbsent(passage, none -> new TreeMap<>()).put(attribute, value);
+      });
       passages.forEach((passage, together) -> update(instance, passage, together, tag));
    }
 
