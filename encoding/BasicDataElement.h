@@ -6,6 +6,7 @@
 
 #include "encoding/Encoder.h"
 #include "encoding/hasher.h"
+#include "encoding/ScalarCodec.h"
 
 #include <memory>
 #include <RTI/encoding/BasicDataElements.h>
@@ -49,23 +50,6 @@ private:
    Value _value;
 };
 
-// Number of bytes from index on, if they are enough for the boundary.
-inline unsigned long bytesLeft(unsigned long size, unsigned long index, unsigned long boundary)
-{
-   if (index >= size || size - index < boundary) {
-      throw EncoderException(L"Index is out of bounds");
-   }
-   return size - index;
-}
-
-// Adds padding and room for length bytes, all zero. Returns where the room begins.
-inline char* appendRoom(std::vector<char>& buffer, unsigned long boundary, unsigned long length)
-{
-   unsigned long const padding = Encoder::paddingSizeInBytes(buffer.size(), boundary);
-   Encoder::insertBytes(buffer, padding + length);
-   return &buffer[buffer.size() - length];
-}
-
 } // namespace rti1516e
 
 // Defines all members of the element X with values of type V.
@@ -75,6 +59,16 @@ inline char* appendRoom(std::vector<char>& buffer, unsigned long boundary, unsig
    class X##Implementation : public BasicValue<V> {                                                \
    public:                                                                                         \
       using BasicValue<V>::BasicValue;                                                             \
+                                                                                                   \
+      static V const& valueOf(DataElement const& element)                                          \
+      {                                                                                            \
+         return static_cast<X const&>(element)._implementation->get();                             \
+      }                                                                                            \
+                                                                                                   \
+      static V& decodedValueOf(DataElement& element)                                               \
+      {                                                                                            \
+         return static_cast<X&>(element)._implementation->decoded();                               \
+      }                                                                                            \
    };                                                                                              \
                                                                                                    \
    X::X() : _implementation(new X##Implementation) {}                                              \
@@ -133,8 +127,7 @@ inline char* appendRoom(std::vector<char>& buffer, unsigned long boundary, unsig
                                                                                                    \
    void X::encodeInto(std::vector<Octet>& buffer) const RTI_THROW((EncoderException))              \
    {                                                                                               \
-      Encoder::encode##X(                                                                          \
-            _implementation->get(), appendRoom(buffer, getOctetBoundary(), getEncodedLength()));   \
+      Encoder::append##X(buffer, getOctetBoundary(), _implementation->get());                      \
    }                                                                                               \
                                                                                                    \
    void X::decode(VariableLengthData const& inData) RTI_THROW((EncoderException))                  \
@@ -180,6 +173,27 @@ inline char* appendRoom(std::vector<char>& buffer, unsigned long boundary, unsig
    {                                                                                               \
       return _implementation->get();                                                               \
    }                                                                                               \
+                                                                                                   \
+   } // namespace rti1516e
+
+// The same for a scalar, and its codec.
+#define RTI_DEFINE_SCALAR(X, V)                                                                    \
+   RTI_DEFINE_BASIC_DATA_ELEMENT(X, V)                                                             \
+                                                                                                   \
+   namespace rti1516e {                                                                            \
+                                                                                                   \
+   static void store##X(DataElement const& scalar, char* out)                                      \
+   {                                                                                               \
+      Encoder::encode##X(X##Implementation::valueOf(scalar), out);                                 \
+   }                                                                                               \
+                                                                                                   \
+   static void load##X(DataElement& scalar, char const* in)                                        \
+   {                                                                                               \
+      Encoder::decode##X(in, sizeof(V), X##Implementation::decodedValueOf(scalar));                \
+   }                                                                                               \
+                                                                                                   \
+   extern ScalarCodec const X##Codec;                                                              \
+   ScalarCodec const X##Codec = {Encoder::boundaryof##X(), store##X, load##X};                     \
                                                                                                    \
    } // namespace rti1516e
 

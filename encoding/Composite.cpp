@@ -7,12 +7,14 @@ namespace rti1516e {
 
 ElementSlot cloneOf(DataElement const& element)
 {
-   return {true, element.clone().release()};
+   std::auto_ptr<DataElement> clone = element.clone();
+   ScalarCodec const* const codec = clone.get() == nullptr ? nullptr : scalarCodecOf(*clone);
+   return {clone.release(), codec, true};
 }
 
 ElementSlot callersOwn(DataElement* element)
 {
-   return {false, element};
+   return {element, element == nullptr ? nullptr : scalarCodecOf(*element), false};
 }
 
 void release(ElementSlot const& slot)
@@ -46,6 +48,13 @@ void checkType(bool sameType)
 void padTo(unsigned long boundary, std::vector<Octet>& buffer)
 {
    Encoder::insertBytes(buffer, Encoder::paddingSizeInBytes(buffer.size(), boundary));
+}
+
+void padTo(DataElement const& element, std::vector<Octet>& buffer)
+{
+   if (!buffer.empty()) {
+      padTo(element.getOctetBoundary(), buffer);
+   }
 }
 
 void encodeBlock(DataElement const& element, VariableLengthData& inData)

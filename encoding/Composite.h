@@ -3,6 +3,8 @@
 #ifndef encoding_Composite_h
 #define encoding_Composite_h
 
+#include "encoding/ScalarCodec.h"
+
 #include <RTI/encoding/DataElement.h>
 #include <vector>
 
@@ -10,12 +12,18 @@ namespace rti1516e {
 
 // A place for an element: a clone made by the composite, which deletes it, or the caller's.
 struct ElementSlot {
-   bool owned;
    DataElement* element;
+   ScalarCodec const* codec; // null unless the element is a scalar
+   bool owned;
 };
 
 ElementSlot cloneOf(DataElement const& element);
 ElementSlot callersOwn(DataElement* element);
+
+inline unsigned int boundaryOf(ElementSlot const& slot)
+{
+   return slot.codec != nullptr ? slot.codec->bytes : slot.element->getOctetBoundary();
+}
 
 // Deletes the element if it is owned.
 void release(ElementSlot const& slot);
@@ -31,6 +39,10 @@ void checkType(bool sameType);
 
 // Appends zeros up to a multiple of the boundary.
 void padTo(unsigned long boundary, std::vector<Octet>& buffer);
+
+// The same to the element's boundary, which is not asked for at the beginning of a vector: large
+// composites take long to tell.
+void padTo(DataElement const& element, std::vector<Octet>& buffer);
 
 // The element's encodeInto() and decodeFrom() on a whole block.
 void encodeBlock(DataElement const& element, VariableLengthData& inData);

@@ -13,7 +13,7 @@ ElementSequence::ElementSequence(ElementSequence const& rhs) : ElementSequence()
 {
    _slots.reserve(rhs.size());
    for (ElementSlot const& slot : rhs._slots) {
-      append(*slot.element);
+      append(cloneOf(*slot.element));
    }
 }
 
@@ -22,16 +22,14 @@ ElementSequence::~ElementSequence()
    truncate(0);
 }
 
-void ElementSequence::append(DataElement const& element)
+void ElementSequence::append(ElementSlot slot)
 {
-   std::auto_ptr<DataElement> clone = element.clone();
-   _slots.push_back({true, clone.get()});
-   clone.release();
-}
-
-void ElementSequence::appendPointer(DataElement* element)
-{
-   _slots.push_back(callersOwn(element));
+   try {
+      _slots.push_back(slot);
+   } catch (...) {
+      release(slot);
+      throw;
+   }
 }
 
 void ElementSequence::replace(std::size_t index, ElementSlot slot)
@@ -52,24 +50,53 @@ unsigned int ElementSequence::boundary(unsigned int least) const
 {
    unsigned int largest = least;
    for (ElementSlot const& slot : _slots) {
-      largest = std::max(largest, slot.element->getOctetBoundary());
+      largest = std::max(largest, boundaryOf(slot));
    }
    return largest;
 }
 
 void ElementSequence::encodeInto(std::vector<Octet>& buffer) const
 {
-   for (ElementSlot const& slot : _slots) {
-      slot.element->encodeInto(buffer);
+   Slots::const_iterator slot = _slots.begin();
+   while (slot != _slots.end()) {
+      if (slot->codec != nullptr) {
+         slot = encodeScalars(slot, buffer);
+      } else {
+         slot->element->encodeInto(buffer);
+         ++slot;
+      }
    }
+}
+
+ElementSequence::Slots::const_iterator ElementSequence::encodeScalars(
+      Slots::const_iterator first, std::vector<Octet>& buffer) const
+{
+   // So many slots that growing the vector costs little for each, and so few that they are still in
+   // the processor's nearest cache when their turn comes.
+   Slots::difference_type const atMost = 256;
+
+   Slots::const_iterator const end = first + std::min(atMost, _slots.end() - first);
+   Slots::const_iterator last = first;
+   std::size_t index = buffer.size();
+   std::size_t size = index;
+   for (; last != end && last->codec != nullptr; ++last) {
+      size += Encoder::paddingSizeInBytes(size, last->codec->bytes) + last->codec->bytes;
+   }
+   Encoder::insertBytes(buffer, size - index);
+   for (; first != last; ++first) {
+      index += Encoder::paddingSizeInBytes(index, first->codec->bytes);
+      first->codec->store(*first->element, &buffer[index]);
+      index += first->codec->bytes;
+   }
+   return last;
 }
 
 std::size_t ElementSequence::encodedLength(std::size_t start) const
 {
    std::size_t length = start;
    for (ElementSlot const& slot : _slots) {
-      length += Encoder::paddingSizeInBytes(length, slot.element->getOctetBoundary());
-      length += slot.element->getEncodedLength();
+      length += Encoder::paddingSizeInBytes(length, boundaryOf(slot));
+      length += slot.codec != nullptr ? slot.codec->bytes : slot.element->getEncodedLength();
    }
    return length;
 }
@@ -77,8 +104,15 @@ std::size_t ElementSequence::encodedLength(std::size_t start) const
 std::size_t ElementSequence::decodeFrom(std::vector<Octet> const& buffer, std::size_t index)
 {
    for (ElementSlot const& slot : _slots) {
-      index += Encoder::paddingSizeInBytes(index, slot.element->getOctetBoundary());
-      index = slot.element->decodeFrom(buffer, index);
+      if (ScalarCodec const* const codec = slot.codec) {
+         index += Encoder::paddingSizeInBytes(index, codec->bytes);
+         bytesLeft(buffer.size(), index, codec->bytes);
+         codec->load(*slot.element, &buffer[index]);
+         index += codec->bytes;
+      } else {
+         index += Encoder::paddingSizeInBytes(index, slot.element->getOctetBoundary());
+         index = slot.element->decodeFrom(buffer, index);
+      }
    }
    return index;
 }

@@ -26,11 +26,7 @@ public:
       return *_slots[index].element;
    }
 
-   // Adds a clone.
-   void append(DataElement const& element);
-
-   // Adds the caller's element.
-   void appendPointer(DataElement* element);
+   void append(ElementSlot slot);
 
    // Puts the new element where the old one was, and releases that.
    void replace(std::size_t index, ElementSlot slot);
@@ -51,7 +47,14 @@ public:
    std::size_t decodeFrom(std::vector<Octet> const& buffer, std::size_t index);
 
 private:
-   std::vector<ElementSlot> _slots;
+   typedef std::vector<ElementSlot> Slots;
+
+   // Encodes a number of scalars, the first of which is at the iterator. Returns where the next
+   // element is.
+   Slots::const_iterator encodeScalars(
+         Slots::const_iterator first, std::vector<Octet>& buffer) const;
+
+   Slots _slots;
 };
 
 } // namespace rti1516e

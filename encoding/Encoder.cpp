@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <RTI/encoding/EncodingExceptions.h>
+#include <stdexcept>
 
 namespace Encoder {
 
@@ -27,9 +28,27 @@ unsigned long decodeCount(void const* buffer, unsigned long length)
    return static_cast<unsigned long>(count);
 }
 
+// Padding and the count, before characters that take the rest of size bytes.
+void appendCount(
+      std::vector<char>& buffer, unsigned long boundary, unsigned long characters, int size)
+{
+   if (size < 0) {
+      throw std::length_error("string too long to encode");
+   }
+   insertBytes(buffer, paddingSizeInBytes(buffer.size(), boundary));
+   appendInt(buffer, static_cast<int>(characters));
+}
+
 char* charactersIn(void const* buffer)
 {
    return static_cast<char*>(const_cast<void*>(buffer)) + COUNT_BYTES;
+}
+
+void encodeCharacters(wchar_t const* characters, unsigned long count, char* out)
+{
+   for (unsigned long i = 0; i < count; ++i) {
+      encodeHLAunicodeChar(characters[i], out + 2 * i);
+   }
 }
 
 } // namespace
@@ -72,6 +91,13 @@ void decodeHLAASCIIstring(void const* buffer, unsigned long length, std::string&
    value.resize(count);
 }
 
+void appendHLAASCIIstring(
+      std::vector<char>& buffer, unsigned long boundary, std::string const& value)
+{
+   appendCount(buffer, boundary, value.size(), sizeofHLAASCIIstring(value));
+   appendBytes(buffer, value.data(), value.size());
+}
+
 unsigned int boundaryofHLAunicodeString()
 {
    return 4;
@@ -93,11 +119,7 @@ char* encodeHLAunicodeString(std::wstring const& value, int& length)
 void encodeHLAunicodeString(std::wstring const& value, void const* buffer)
 {
    encodeHLAinteger32BE(static_cast<int>(value.size()), buffer);
-   char* out = charactersIn(buffer);
-   for (wchar_t const character : value) {
-      encodeHLAunicodeChar(character, out);
-      out += 2;
-   }
+   encodeCharacters(value.data(), value.size(), charactersIn(buffer));
 }
 
 std::wstring decodeHLAunicodeString(void const* buffer, unsigned long length)
@@ -125,9 +147,18 @@ void decodeHLAunicodeString(void const* buffer, unsigned long length, std::wstri
    }
 }
 
-void insertBytes(std::vector<char>& buffer, unsigned long count)
+// Piece by piece, so that a long string's bytes are written once, and not first as zeros.
+void appendHLAunicodeString(
+      std::vector<char>& buffer, unsigned long boundary, std::wstring const& value)
 {
-   buffer.resize(buffer.size() + count);
+   appendCount(buffer, boundary, value.size(), sizeofHLAunicodeString(value));
+   unsigned long const atMost = 512;
+   char piece[2 * atMost];
+   for (unsigned long first = 0; first < value.size(); first += atMost) {
+      unsigned long const count = std::min(atMost, value.size() - first);
+      encodeCharacters(value.data() + first, count, piece);
+      appendBytes(buffer, piece, 2 * count);
+   }
 }
 
 void appendBytes(std::vector<char>& buffer, char const* bytes, unsigned long count)

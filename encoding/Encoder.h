@@ -32,6 +32,32 @@
 
 namespace Encoder {
 
+// The smallest number of bytes that brings size to a multiple of boundary. A boundary of 0 is a
+// division by zero. All the family's own boundaries are powers of two, where no division is needed.
+inline unsigned long paddingSizeInBytes(unsigned long size, unsigned long boundary)
+{
+   if (boundary != 0 && (boundary & (boundary - 1)) == 0) {
+      return (0 - size) & (boundary - 1);
+   }
+   unsigned long const behind = size % boundary;
+   return behind == 0 ? 0 : boundary - behind;
+}
+
+// Adds count bytes of zero. All padding comes from here.
+inline void insertBytes(std::vector<char>& buffer, unsigned long count)
+{
+   buffer.resize(buffer.size() + count);
+}
+
+// Adds a copy of count bytes; with a count of 0 bytes may be null.
+void appendBytes(std::vector<char>& buffer, char const* bytes, unsigned long count);
+
+// Adds four bytes, most significant first.
+void appendInt(std::vector<char>& buffer, int value);
+
+// Reads four bytes, most significant first. The caller guarantees that they are there.
+int decodeInt(std::vector<char> const& buffer, unsigned long index);
+
 // Each scalar X has five functions, written out here for HLAinteger32BE:
 //
 //   unsigned int boundaryofHLAinteger32BE();        4
@@ -41,8 +67,14 @@ namespace Encoder {
 //   void encodeHLAinteger32BE(int value, void const* buffer);
 //      Writes to buffer, const notwithstanding. The caller guarantees the room.
 //   int decodeHLAinteger32BE(void const* buffer, unsigned long length);
-//      Reads at buffer. The caller guarantees the bytes; length is not looked at. A second form
-//      has a third argument, int&, that it decodes into.
+//      Reads at buffer. The caller guarantees the bytes; length is not looked at.
+//
+// Two more spare the elements a copy or a buffer in between:
+//
+//   void decodeHLAinteger32BE(void const* buffer, unsigned long length, int& value);
+//      Decodes into value.
+//   void appendHLAinteger32BE(std::vector<char>& buffer, unsigned long boundary, int value);
+//      Adds padding to the boundary and the encoded value.
 
 // The integer whose bytes a value travels as, and the value back from it.
 
@@ -248,6 +280,12 @@ Value decodeScalar(void const* buffer)
    inline void decode##Name(void const* buffer, unsigned long, Value& value)                       \
    {                                                                                               \
       value = decodeScalar<Order, Value>(buffer);                                                  \
+   }                                                                                               \
+                                                                                                   \
+   inline void append##Name(std::vector<char>& buffer, unsigned long boundary, Value value)        \
+   {                                                                                               \
+      insertBytes(buffer, paddingSizeInBytes(buffer.size(), boundary) + Bytes);                    \
+      encodeScalar<Order>(value, &buffer[buffer.size() - Bytes]);                                  \
    }
 
 ENCODER_FOR_EACH_SCALAR(ENCODER_SCALAR)
@@ -258,10 +296,12 @@ ENCODER_FOR_EACH_SCALAR(ENCODER_SCALAR)
 // byte each or two (the low 16 bits, most significant byte first). Nothing is transcoded.
 //
 // The decoders need 4 bytes at least. They compare the count with the length of all the data and
-// throw EncoderException "Array index out of bounds" if it is greater, or negative. A smaller count
-// may still reach behind the data: the string has the length that the count says, and what lies
-// outside the data is read as zero. The forms with a third argument decode into a string that is
-// there already; it is unchanged if they throw.
+// throw EncoderException "Array index out of bounds" if it is greater, or negative; the value that
+// they decode into is unchanged then. A smaller count may still reach behind the data: the string
+// has the length that the count says, and what lies outside the data is read as zero.
+//
+// A string whose encoded form has 2^31 bytes or more has a negative size, and no room is found for
+// it: std::bad_alloc or std::length_error.
 
 unsigned int boundaryofHLAASCIIstring();
 int sizeofHLAASCIIstring(std::string const& value);
@@ -269,6 +309,8 @@ char* encodeHLAASCIIstring(std::string const& value, int& length);
 void encodeHLAASCIIstring(std::string const& value, void const* buffer);
 std::string decodeHLAASCIIstring(void const* buffer, unsigned long length);
 void decodeHLAASCIIstring(void const* buffer, unsigned long length, std::string& value);
+void appendHLAASCIIstring(
+      std::vector<char>& buffer, unsigned long boundary, std::string const& value);
 
 unsigned int boundaryofHLAunicodeString();
 int sizeofHLAunicodeString(std::wstring const& value);
@@ -276,26 +318,8 @@ char* encodeHLAunicodeString(std::wstring const& value, int& length);
 void encodeHLAunicodeString(std::wstring const& value, void const* buffer);
 std::wstring decodeHLAunicodeString(void const* buffer, unsigned long length);
 void decodeHLAunicodeString(void const* buffer, unsigned long length, std::wstring& value);
-
-// The smallest number of bytes that brings size to a multiple of boundary. A boundary of 0 is a
-// division by zero.
-inline unsigned long paddingSizeInBytes(unsigned long size, unsigned long boundary)
-{
-   unsigned long const behind = size % boundary;
-   return behind == 0 ? 0 : boundary - behind;
-}
-
-// Adds count bytes of zero. All padding comes from here.
-void insertBytes(std::vector<char>& buffer, unsigned long count);
-
-// Adds a copy of count bytes; with a count of 0 bytes may be null.
-void appendBytes(std::vector<char>& buffer, char const* bytes, unsigned long count);
-
-// Adds four bytes, most significant first.
-void appendInt(std::vector<char>& buffer, int value);
-
-// Reads four bytes, most significant first. The caller guarantees that they are there.
-int decodeInt(std::vector<char> const& buffer, unsigned long index);
+void appendHLAunicodeString(
+      std::vector<char>& buffer, unsigned long boundary, std::wstring const& value);
 
 } // namespace Encoder
 

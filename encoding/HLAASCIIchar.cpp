@@ -1,4 +1,4 @@
 // HLAASCIIchar: one character of 8 bits.
 #include "encoding/BasicDataElement.h"
 
-RTI_DEFINE_BASIC_DATA_ELEMENT(HLAASCIIchar, char)
+RTI_DEFINE_SCALAR(HLAASCIIchar, char)

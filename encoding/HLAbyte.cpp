@@ -1,4 +1,4 @@
 // HLAbyte: eight bits.
 #include "encoding/BasicDataElement.h"
 
-RTI_DEFINE_BASIC_DATA_ELEMENT(HLAbyte, char)
+RTI_DEFINE_SCALAR(HLAbyte, char)

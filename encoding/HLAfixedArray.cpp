@@ -12,7 +12,7 @@ public:
    HLAfixedArrayImplementation(DataElement const& prototype, std::size_t length)
    {
       for (std::size_t i = 0; i < length; ++i) {
-         append(prototype);
+         append(cloneOf(prototype));
       }
    }
 };
@@ -47,7 +47,7 @@ RTI_DEFINE_COMPOSITE_MEMBERS(HLAfixedArray)
 
 void HLAfixedArray::encodeInto(std::vector<Octet>& buffer) const RTI_THROW((EncoderException))
 {
-   padTo(getOctetBoundary(), buffer);
+   padTo(*this, buffer);
    _implementation->encodeInto(buffer);
 }
 

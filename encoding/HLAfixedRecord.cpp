@@ -32,7 +32,7 @@ RTI_DEFINE_COMPOSITE_MEMBERS(HLAfixedRecord)
 
 void HLAfixedRecord::encodeInto(std::vector<Octet>& buffer) const RTI_THROW((EncoderException))
 {
-   padTo(getOctetBoundary(), buffer);
+   padTo(*this, buffer);
    _implementation->encodeInto(buffer);
 }
 
@@ -69,12 +69,12 @@ std::size_t HLAfixedRecord::size() const
 
 void HLAfixedRecord::appendElement(DataElement const& inData)
 {
-   _implementation->append(inData);
+   _implementation->append(cloneOf(inData));
 }
 
 void HLAfixedRecord::appendElementPointer(DataElement* inData)
 {
-   _implementation->appendPointer(inData);
+   _implementation->append(callersOwn(inData));
 }
 
 void HLAfixedRecord::set(std::size_t index, DataElement const& inData) RTI_THROW((EncoderException))

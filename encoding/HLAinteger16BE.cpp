@@ -1,4 +1,4 @@
 // HLAinteger16BE: a signed integer of 16 bits, most significant byte first.
 #include "encoding/BasicDataElement.h"
 
-RTI_DEFINE_BASIC_DATA_ELEMENT(HLAinteger16BE, Integer16)
+RTI_DEFINE_SCALAR(HLAinteger16BE, Integer16)

@@ -1,4 +1,4 @@
 // HLAinteger32BE: a signed integer of 32 bits, most significant byte first.
 #include "encoding/BasicDataElement.h"
 
-RTI_DEFINE_BASIC_DATA_ELEMENT(HLAinteger32BE, Integer32)
+RTI_DEFINE_SCALAR(HLAinteger32BE, Integer32)

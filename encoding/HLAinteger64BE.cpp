@@ -1,4 +1,4 @@
 // HLAinteger64BE: a signed integer of 64 bits, most significant byte first.
 #include "encoding/BasicDataElement.h"
 
-RTI_DEFINE_BASIC_DATA_ELEMENT(HLAinteger64BE, Integer64)
+RTI_DEFINE_SCALAR(HLAinteger64BE, Integer64)

@@ -1,4 +1,4 @@
 // HLAoctet: eight bits.
 #include "encoding/BasicDataElement.h"
 
-RTI_DEFINE_BASIC_DATA_ELEMENT(HLAoctet, Octet)
+RTI_DEFINE_SCALAR(HLAoctet, Octet)

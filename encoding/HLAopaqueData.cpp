@@ -91,7 +91,7 @@ RTI_DEFINE_COMPOSITE_MEMBERS(HLAopaqueData)
 
 void HLAopaqueData::encodeInto(std::vector<Octet>& buffer) const RTI_THROW((EncoderException))
 {
-   padTo(getOctetBoundary(), buffer);
+   padTo(*this, buffer);
    Encoder::appendInt(buffer, static_cast<int>(_implementation->dataLength));
    Encoder::appendBytes(buffer, _implementation->buffer, _implementation->dataLength);
 }

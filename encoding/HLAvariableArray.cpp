@@ -32,7 +32,7 @@ public:
    {
       truncate(count);
       while (size() < count) {
-         append(*prototype);
+         append(cloneOf(*prototype));
       }
    }
 
@@ -61,7 +61,7 @@ RTI_DEFINE_COMPOSITE_MEMBERS(HLAvariableArray)
 
 void HLAvariableArray::encodeInto(std::vector<Octet>& buffer) const RTI_THROW((EncoderException))
 {
-   padTo(getOctetBoundary(), buffer);
+   padTo(*this, buffer);
    Encoder::appendInt(buffer, static_cast<int>(size()));
    _implementation->encodeInto(buffer);
 }
@@ -114,12 +114,12 @@ bool HLAvariableArray::hasPrototypeSameTypeAs(DataElement const& inData) const
 
 void HLAvariableArray::addElement(DataElement const& inData) RTI_THROW((EncoderException))
 {
-   _implementation->append(inData);
+   _implementation->append(cloneOf(inData));
 }
 
 void HLAvariableArray::addElementPointer(DataElement* inData) RTI_THROW((EncoderException))
 {
-   _implementation->appendPointer(inData);
+   _implementation->append(callersOwn(inData));
 }
 
 void HLAvariableArray::set(std::size_t index, DataElement const& inData)

@@ -55,7 +55,7 @@ public:
    {
       unsigned int largest = 0;
       for (Variants::value_type const& variant : variants) {
-         largest = std::max(largest, variant.second.element->getOctetBoundary());
+         largest = std::max(largest, boundaryOf(variant.second));
       }
       return largest;
    }
@@ -114,7 +114,7 @@ RTI_DEFINE_COMPOSITE_MEMBERS(HLAvariantRecord)
 
 void HLAvariantRecord::encodeInto(std::vector<Octet>& buffer) const RTI_THROW((EncoderException))
 {
-   padTo(getOctetBoundary(), buffer);
+   padTo(*this, buffer);
    _implementation->discriminant->encodeInto(buffer);
    if (_implementation->variants.empty()) {
       return;

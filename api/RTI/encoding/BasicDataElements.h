@@ -59,6 +59,8 @@ namespace rti1516e {
       virtual V get() const;                                                                       \
                                                                                                    \
    private:                                                                                        \
+      friend class X##Implementation;                                                              \
+                                                                                                   \
       X##Implementation* _implementation;                                                          \
    };
 
