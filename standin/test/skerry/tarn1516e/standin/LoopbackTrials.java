@@ -204,6 +204,7 @@ public final class LoopbackTrials {
    private void declarations() throws Exception {
       _a.rti.declaration.publishObjectClassAttributes(_ship, set(_name));
       _a.rti.declaration.publishInteractionClass(_signal);
+      _b.rti.declaration.subscribeObjectClassAttributes(_ship, set(_name), false, "");
       _a.expect();
       _b.rti.declaration.subscribeObjectClassAttributes(_ship, set(_position), true, "");
       _b.rti.declaration.subscribeInteractionClass(_signal, false);
@@ -246,6 +247,7 @@ public final class LoopbackTrials {
       fails(InteractionParameterNotDefined.class,
             () -> _a.rti.object.sendInteraction(_signal, value(99, 4), TAG));
       _b.rti.object.requestAttributeValueUpdate_OIH_AHS_BX(object, set(_name), TAG);
+      _a.rti.object.requestAttributeValueUpdate_OCH_AHS_BX(_ship, set(_name), TAG);
       _a.expect("provideAttributeValueUpdate " + object + " [" + _name + "]");
       _a.rti.object.requestAttributeTransportationTypeChange(object, set(_name), 2);
       _a.expect("confirmAttributeTransportationTypeChange " + object + " [" + _name + "] 2");
@@ -377,11 +379,11 @@ public final class LoopbackTrials {
       _a.rti.time.retract(2);
       same("HLAinstance" + object, _a.rti.support.getObjectInstanceName(object));
       _a.rti.object.updateAttributeValues(object, value(_name, 1), TAG, time(1));
-      _a.rti.time.timeAdvanceRequest(time(2));
-      _b.rti.time.timeAdvanceRequest(time(2));
+      _a.rti.time.timeAdvanceRequest(time(4));
+      _b.rti.time.timeAdvanceRequest(time(4));
       _b.expect("reflectAttributeValues " + object + " [" + _name + "=1] 1 1 @1 1 #3 from 1",
-            "timeAdvanceGrant @2");
-      _a.expect("timeAdvanceGrant @2");
+            "timeAdvanceGrant @4");
+      _a.expect("timeAdvanceGrant @4");
       fails(MessageCanNoLongerBeRetracted.class, () -> _a.rti.time.retract(3));
       fails(InvalidMessageRetractionHandle.class, () -> _a.rti.time.retract(77));
    }
@@ -429,11 +431,22 @@ public final class LoopbackTrials {
       same(1, _b.rti.ownership.attributeOwnershipDivestitureIfWanted(object, set(_name)).length);
       _a.expect("attributeOwnershipAcquisitionNotification " + attribute);
       _b.expect("requestAttributeOwnershipRelease " + attribute);
+      Federate c = new Federate(EVOKED).join("C", _federation);
+      c.rti.declaration.publishObjectClassAttributes(_ship, set(_name));
+      c.rti.declaration.subscribeObjectClassAttributes(_ship, set(_name), true, "");
+      _b.rti.ownership.attributeOwnershipAcquisition(object, set(_name), TAG);
+      c.rti.ownership.attributeOwnershipAcquisition(object, set(_name), TAG);
       _a.rti.ownership.unconditionalAttributeOwnershipDivestiture(object, set(_name));
-      _b.expect("requestAttributeOwnershipAssumption " + attribute);
+      _b.got.clear();
+      _b.expect("startRegistrationForObjectClass " + _ship,
+            "attributeOwnershipAcquisitionNotification " + attribute,
+            "requestAttributeOwnershipRelease " + attribute);
+      c.rti.federation.resignFederationExecution(4);
+      _b.rti.ownership.unconditionalAttributeOwnershipDivestiture(object, set(_name));
       _b.rti.ownership.queryAttributeOwnership(object, _name);
       _b.rti.ownership.queryAttributeOwnership(object, _position);
-      _b.expect("attributeIsNotOwned " + object + " " + _name,
+      _b.expect("stopRegistrationForObjectClass " + _ship,
+            "attributeIsNotOwned " + object + " " + _name,
             "informAttributeOwnership " + object + " " + _position + " 1");
       fails(AttributeNotOwned.class, () -> _a.rti.ownership
             .cancelNegotiatedAttributeOwnershipDivestiture(object, set(_name)));
@@ -442,6 +455,9 @@ public final class LoopbackTrials {
    }
 
    private void regions() throws Exception {
+      same(false, new Range(0, 50).overlaps(new Range(50, 60)));
+      same(false, new Range(50, 60).overlaps(new Range(0, 50)));
+      same(true, new Range(50, 60).overlaps(new Range(0, 51)));
       int near = region(_a, 0, 100);
       int far = region(_a, 500, 600);
       int watched = region(_b, 50, 200);
@@ -561,6 +577,16 @@ public final class LoopbackTrials {
       fails(InvalidFederateHandle.class, () -> _b.rti.support.getFederateName(3));
       _a.join("A", _federation);
       same("A 3", _b.rti.support.getFederateName(3));
+      _a.rti.declaration.publishObjectClassAttributes(_ship, set(_name));
+      _a.rti.object.registerObjectInstance(_ship);
+      _b.rti.federation.listFederationExecutions();
+      _b.rti.federation.resignFederationExecution(5);
+      _b.got.clear();
+      while (_b.rti.support.evokeCallback(0)) {
+      }
+      same(1, _b.got.size());
+      same(true, _b.got.get(0).startsWith("reportFederationExecutions "));
+      _a.rti.federation.resignFederationExecution(0);
    }
 
    private void lostConnection() throws Exception {
