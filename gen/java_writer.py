@@ -50,6 +50,10 @@ RESULTS = {
     "[J": ("long[]", "asLongs"),
 }
 
+# A blank at which no line is folded.
+GLUE = "\N{NO-BREAK SPACE}"
+THROWS = f"throws{GLUE}RTIexception"
+
 # These run callbacks or wait for them, so that they may not hold the lock.
 UNLOCKED = ("disconnect", "evokeCallback", "evokeMultipleCallbacks")
 
@@ -100,7 +104,8 @@ def parameter_types(row):
 
 
 def parameters(row):
-    return ", ".join(f"{FIELDS[field.code][0]} {field.name}" for field in row.fields)
+    return ", ".join(f"{FIELDS[field.code][0]} {field.name}".replace(" ", GLUE)
+                     for field in row.fields)
 
 
 def head(source, purpose):
@@ -108,10 +113,11 @@ def head(source, purpose):
 
 
 def fold(text, indent, more=6):
-    """Lines of at most 100 columns; what follows the first is indented by `more`."""
+    """Lines of at most 100 columns; what follows the first is indented by `more`. Words with GLUE
+    between them stay on one line."""
     return "\n".join(textwrap.wrap(
         text, 100, initial_indent=indent, subsequent_indent=indent + " " * more,
-        break_long_words=False, break_on_hyphens=False))
+        break_long_words=False, break_on_hyphens=False)).replace(GLUE, " ")
 
 
 def exception_text(name):
@@ -159,9 +165,10 @@ def method_text(service, names):
     given = "body" if service.fields else "null"
     lines = [
         "",
-        fold(f"public {result} {service.java_name}({body}) throws RTIexception {{", "   "),
+        fold(f"public {result} {service.java_name}({body}) {THROWS}{GLUE}{{", "   "),
         "      if (Script.isOn) {",
-        fold(f'Script.Answer answer = Script.answer("{service.java_name}", {given});', "         "),
+        fold("Script.Answer answer ="
+             f' Script.answer("{service.java_name}",{GLUE}{given});', "         "),
         "         if (answer != null) {",
         f"            return{' answer.' + answer + '()' if answer else ''};",
         "         }",
@@ -189,8 +196,8 @@ import hla.rti1516e.exceptions.FederateInternalError;
 public class FederateAmbassadorC2007 {
 """
         + "\n".join(
-            fold(f"public native void {row.native_name}(byte[] frame) "
-                 "throws FederateInternalError;", "   ") + "\n" for row in callbacks)
+            fold(f"public native void {row.native_name}(byte[]{GLUE}frame) "
+                 f"throws{GLUE}FederateInternalError;", "   ") + "\n" for row in callbacks)
         + "}\n")
 
 
@@ -265,14 +272,13 @@ def writer(row, field):
 
 
 def send_text(row, names):
-    fields = "".join(f" .{writer(row, field)}({field.name})" for field in row.fields)
-    frame = fold(f"byte[] frame = new FrameWriter(_handle){fields} .finish();", "      ")
-    frame = frame.replace(" .", ".").replace("      ..", "      .")
     return "\n".join([
         "",
         fold(f"void {names[row.java_name]}({parameters(row)}) {{", "   "),
-        frame,
-        fold(f'send("{row.native_name}", frame);', "      "),
+        "      byte[] frame = new FrameWriter(_handle)",
+        *(f"            .{writer(row, field)}({field.name})" for field in row.fields),
+        "            .finish();",
+        f'      send("{row.native_name}", frame);',
         "   }",
         "",
     ])
@@ -287,6 +293,6 @@ def group_text(group, services, names):
         + f"\npublic interface {camel(group)} {{\n"
         + "\n".join(
             fold(f"{RESULTS[signature(row.signature)][0]} {names[row.java_name]}"
-                 f"({parameters(row)}) throws RTIexception;", "   ") + "\n"
+                 f"({parameters(row)}) {THROWS};", "   ") + "\n"
             for row in services)
         + "}\n")

@@ -160,8 +160,8 @@ public class RTIambassadorC2007 {
 
    public void registerFederationSynchronizationPoint_S_BX_FHS(byte[] body) throws RTIexception {
       if (Script.isOn) {
-         Script.Answer answer = Script.answer("registerFederationSynchronizationPoint_S_BX_FHS",
-               body);
+         Script.Answer answer =
+               Script.answer("registerFederationSynchronizationPoint_S_BX_FHS", body);
          if (answer != null) {
             return;
          }
@@ -662,8 +662,8 @@ public class RTIambassadorC2007 {
       }
    }
 
-   public void requestAttributeTransportationTypeChange_OIH_AHS_TTH(byte[] body) throws RTIexception
-         {
+   public void requestAttributeTransportationTypeChange_OIH_AHS_TTH(byte[] body)
+         throws RTIexception {
       if (Script.isOn) {
          Script.Answer answer =
                Script.answer("requestAttributeTransportationTypeChange_OIH_AHS_TTH", body);
@@ -693,8 +693,8 @@ public class RTIambassadorC2007 {
 
    public void requestInteractionTransportationTypeChange_ICH_TTH(byte[] body) throws RTIexception {
       if (Script.isOn) {
-         Script.Answer answer = Script.answer("requestInteractionTransportationTypeChange_ICH_TTH",
-               body);
+         Script.Answer answer =
+               Script.answer("requestInteractionTransportationTypeChange_ICH_TTH", body);
          if (answer != null) {
             return;
          }
@@ -720,8 +720,8 @@ public class RTIambassadorC2007 {
 
    public void unconditionalAttributeOwnershipDivestiture_OIH_AHS(byte[] body) throws RTIexception {
       if (Script.isOn) {
-         Script.Answer answer = Script.answer("unconditionalAttributeOwnershipDivestiture_OIH_AHS",
-               body);
+         Script.Answer answer =
+               Script.answer("unconditionalAttributeOwnershipDivestiture_OIH_AHS", body);
          if (answer != null) {
             return;
          }
@@ -735,8 +735,8 @@ public class RTIambassadorC2007 {
 
    public void negotiatedAttributeOwnershipDivestiture_OIH_AHS_BX(byte[] body) throws RTIexception {
       if (Script.isOn) {
-         Script.Answer answer = Script.answer("negotiatedAttributeOwnershipDivestiture_OIH_AHS_BX",
-               body);
+         Script.Answer answer =
+               Script.answer("negotiatedAttributeOwnershipDivestiture_OIH_AHS_BX", body);
          if (answer != null) {
             return;
          }
@@ -776,8 +776,8 @@ public class RTIambassadorC2007 {
 
    public void attributeOwnershipAcquisitionIfAvailable_OIH_AHS(byte[] body) throws RTIexception {
       if (Script.isOn) {
-         Script.Answer answer = Script.answer("attributeOwnershipAcquisitionIfAvailable_OIH_AHS",
-               body);
+         Script.Answer answer =
+               Script.answer("attributeOwnershipAcquisitionIfAvailable_OIH_AHS", body);
          if (answer != null) {
             return;
          }
@@ -803,8 +803,8 @@ public class RTIambassadorC2007 {
 
    public int[] attributeOwnershipDivestitureIfWanted_OIH_AHS(byte[] body) throws RTIexception {
       if (Script.isOn) {
-         Script.Answer answer = Script.answer("attributeOwnershipDivestitureIfWanted_OIH_AHS",
-               body);
+         Script.Answer answer =
+               Script.answer("attributeOwnershipDivestitureIfWanted_OIH_AHS", body);
          if (answer != null) {
             return answer.asInts();
          }
@@ -816,8 +816,8 @@ public class RTIambassadorC2007 {
       }
    }
 
-   public void cancelNegotiatedAttributeOwnershipDivestiture_OIH_AHS(byte[] body) throws
-         RTIexception {
+   public void cancelNegotiatedAttributeOwnershipDivestiture_OIH_AHS(byte[] body)
+         throws RTIexception {
       if (Script.isOn) {
          Script.Answer answer =
                Script.answer("cancelNegotiatedAttributeOwnershipDivestiture_OIH_AHS", body);
@@ -1164,8 +1164,8 @@ public class RTIambassadorC2007 {
 
    public int registerObjectInstanceWithRegions_OCH_ASRSPL_S(byte[] body) throws RTIexception {
       if (Script.isOn) {
-         Script.Answer answer = Script.answer("registerObjectInstanceWithRegions_OCH_ASRSPL_S",
-               body);
+         Script.Answer answer =
+               Script.answer("registerObjectInstanceWithRegions_OCH_ASRSPL_S", body);
          if (answer != null) {
             return answer.asInt();
          }
@@ -1203,8 +1203,8 @@ public class RTIambassadorC2007 {
       }
    }
 
-   public void subscribeObjectClassAttributesWithRegions_OCH_ASRSPL_Z_S(byte[] body) throws
-         RTIexception {
+   public void subscribeObjectClassAttributesWithRegions_OCH_ASRSPL_Z_S(byte[] body)
+         throws RTIexception {
       if (Script.isOn) {
          Script.Answer answer =
                Script.answer("subscribeObjectClassAttributesWithRegions_OCH_ASRSPL_Z_S", body);
@@ -1219,8 +1219,8 @@ public class RTIambassadorC2007 {
       }
    }
 
-   public void unsubscribeObjectClassAttributesWithRegions_OCH_ASRSPL(byte[] body) throws
-         RTIexception {
+   public void unsubscribeObjectClassAttributesWithRegions_OCH_ASRSPL(byte[] body)
+         throws RTIexception {
       if (Script.isOn) {
          Script.Answer answer =
                Script.answer("unsubscribeObjectClassAttributesWithRegions_OCH_ASRSPL", body);
@@ -1237,8 +1237,8 @@ public class RTIambassadorC2007 {
 
    public void subscribeInteractionClassWithRegions_ICH_Z_RHS(byte[] body) throws RTIexception {
       if (Script.isOn) {
-         Script.Answer answer = Script.answer("subscribeInteractionClassWithRegions_ICH_Z_RHS",
-               body);
+         Script.Answer answer =
+               Script.answer("subscribeInteractionClassWithRegions_ICH_Z_RHS", body);
          if (answer != null) {
             return;
          }
@@ -1252,8 +1252,8 @@ public class RTIambassadorC2007 {
 
    public void unsubscribeInteractionClassWithRegions_ICH_RHS(byte[] body) throws RTIexception {
       if (Script.isOn) {
-         Script.Answer answer = Script.answer("unsubscribeInteractionClassWithRegions_ICH_RHS",
-               body);
+         Script.Answer answer =
+               Script.answer("unsubscribeInteractionClassWithRegions_ICH_RHS", body);
          if (answer != null) {
             return;
          }
@@ -1280,8 +1280,8 @@ public class RTIambassadorC2007 {
 
    public byte[] sendInteractionWithRegions_ICH_PHVM_RHS_BX_LT(byte[] body) throws RTIexception {
       if (Script.isOn) {
-         Script.Answer answer = Script.answer("sendInteractionWithRegions_ICH_PHVM_RHS_BX_LT",
-               body);
+         Script.Answer answer =
+               Script.answer("sendInteractionWithRegions_ICH_PHVM_RHS_BX_LT", body);
          if (answer != null) {
             return answer.asBytes();
          }
@@ -1293,8 +1293,8 @@ public class RTIambassadorC2007 {
       }
    }
 
-   public void requestAttributeValueUpdateWithRegions_OCH_ASRSPL_BX(byte[] body) throws RTIexception
-         {
+   public void requestAttributeValueUpdateWithRegions_OCH_ASRSPL_BX(byte[] body)
+         throws RTIexception {
       if (Script.isOn) {
          Script.Answer answer =
                Script.answer("requestAttributeValueUpdateWithRegions_OCH_ASRSPL_BX", body);
@@ -1583,8 +1583,8 @@ public class RTIambassadorC2007 {
 
    public int[] getAvailableDimensionsForClassAttribute_OCH_AH(byte[] body) throws RTIexception {
       if (Script.isOn) {
-         Script.Answer answer = Script.answer("getAvailableDimensionsForClassAttribute_OCH_AH",
-               body);
+         Script.Answer answer =
+               Script.answer("getAvailableDimensionsForClassAttribute_OCH_AH", body);
          if (answer != null) {
             return answer.asInts();
          }
@@ -1598,8 +1598,8 @@ public class RTIambassadorC2007 {
 
    public int[] getAvailableDimensionsForInteractionClass_ICH(byte[] body) throws RTIexception {
       if (Script.isOn) {
-         Script.Answer answer = Script.answer("getAvailableDimensionsForInteractionClass_ICH",
-               body);
+         Script.Answer answer =
+               Script.answer("getAvailableDimensionsForInteractionClass_ICH", body);
          if (answer != null) {
             return answer.asInts();
          }

@@ -18,359 +18,533 @@ abstract class CallbackSender {
    abstract void send(String nativeName, byte[] frame);
 
    void synchronizationPointRegistrationSucceeded(String label) {
-      byte[] frame = new FrameWriter(_handle).string(label).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .string(label)
+            .finish();
       send("synchronizationPointRegistrationSucceeded_S_Native", frame);
    }
 
    void synchronizationPointRegistrationFailed(String label, int theReason) {
-      byte[] frame = new FrameWriter(_handle).string(label).integer(theReason).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .string(label)
+            .integer(theReason)
+            .finish();
       send("synchronizationPointRegistrationFailed_S_SPFR_Native", frame);
    }
 
    void announceSynchronizationPoint(String label, byte[] theUserSuppliedTag) {
-      byte[] frame = new FrameWriter(_handle).string(label).bytes(theUserSuppliedTag).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .string(label)
+            .bytes(theUserSuppliedTag)
+            .finish();
       send("announceSynchronizationPoint_S_BX_Native", frame);
    }
 
    void federationSynchronized(String label, Set<Integer> failedToSyncSet) {
-      byte[] frame = new FrameWriter(_handle).string(label).integers(failedToSyncSet).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .string(label)
+            .integers(failedToSyncSet)
+            .finish();
       send("federationSynchronized_S_FHS_Native", frame);
    }
 
    void initiateFederateSave(String label) {
-      byte[] frame = new FrameWriter(_handle).string(label).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .string(label)
+            .finish();
       send("initiateFederateSave_S_Native", frame);
    }
 
    void initiateFederateSave(String label, byte[] theTime) {
-      byte[] frame = new FrameWriter(_handle).string(label).time(theTime).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .string(label)
+            .time(theTime)
+            .finish();
       send("initiateFederateSave_S_LT_Native", frame);
    }
 
    void federationSaved() {
-      byte[] frame = new FrameWriter(_handle).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .finish();
       send("federationSaved_Native", frame);
    }
 
    void federationNotSaved(int theReason) {
-      byte[] frame = new FrameWriter(_handle).integer(theReason).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theReason)
+            .finish();
       send("federationNotSaved_SFR_Native", frame);
    }
 
    void federationSaveStatusResponse(List<int[]> theStatuses) {
-      byte[] frame = new FrameWriter(_handle).records(theStatuses).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .records(theStatuses)
+            .finish();
       send("federationSaveStatusResponse_FHSSPX_Native", frame);
    }
 
    void requestFederationRestoreSucceeded(String label) {
-      byte[] frame = new FrameWriter(_handle).string(label).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .string(label)
+            .finish();
       send("requestFederationRestoreSucceeded_S_Native", frame);
    }
 
    void requestFederationRestoreFailed(String label) {
-      byte[] frame = new FrameWriter(_handle).string(label).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .string(label)
+            .finish();
       send("requestFederationRestoreFailed_S_Native", frame);
    }
 
    void federationRestoreBegun() {
-      byte[] frame = new FrameWriter(_handle).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .finish();
       send("federationRestoreBegun_Native", frame);
    }
 
    void initiateFederateRestore(String label, String federateName, int postRestoreHandle) {
-      byte[] frame = new FrameWriter(_handle).string(label).string(federateName)
-           .integer(postRestoreHandle).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .string(label)
+            .string(federateName)
+            .integer(postRestoreHandle)
+            .finish();
       send("initiateFederateRestore_S_S_FH_Native", frame);
    }
 
    void federationRestored() {
-      byte[] frame = new FrameWriter(_handle).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .finish();
       send("federationRestored_Native", frame);
    }
 
    void federationNotRestored(int theReason) {
-      byte[] frame = new FrameWriter(_handle).integer(theReason).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theReason)
+            .finish();
       send("federationNotRestored_RFR_Native", frame);
    }
 
    void federationRestoreStatusResponse(List<int[]> theStatuses) {
-      byte[] frame = new FrameWriter(_handle).records(theStatuses).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .records(theStatuses)
+            .finish();
       send("federationRestoreStatusResponse_FRSX_Native", frame);
    }
 
    void connectionLost(String faultDescription) {
-      byte[] frame = new FrameWriter(_handle).string(faultDescription).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .string(faultDescription)
+            .finish();
       send("connectionLost_S_Native", frame);
    }
 
    void reportFederationExecutions(List<String[]> theExecutions) {
-      byte[] frame = new FrameWriter(_handle).namePairs(theExecutions).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .namePairs(theExecutions)
+            .finish();
       send("reportFederationExecutions_FEIS_Native", frame);
    }
 
    void startRegistrationForObjectClass(int theClass) {
-      byte[] frame = new FrameWriter(_handle).integer(theClass).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theClass)
+            .finish();
       send("startRegistrationForObjectClass_OCH_Native", frame);
    }
 
    void stopRegistrationForObjectClass(int theClass) {
-      byte[] frame = new FrameWriter(_handle).integer(theClass).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theClass)
+            .finish();
       send("stopRegistrationForObjectClass_OCH_Native", frame);
    }
 
    void turnInteractionsOn(int theInteraction) {
-      byte[] frame = new FrameWriter(_handle).integer(theInteraction).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theInteraction)
+            .finish();
       send("turnInteractionsOn_ICH_Native", frame);
    }
 
    void turnInteractionsOff(int theInteraction) {
-      byte[] frame = new FrameWriter(_handle).integer(theInteraction).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theInteraction)
+            .finish();
       send("turnInteractionsOff_ICH_Native", frame);
    }
 
    void objectInstanceNameReservationSucceeded(String theObjectInstanceName) {
-      byte[] frame = new FrameWriter(_handle).string(theObjectInstanceName).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .string(theObjectInstanceName)
+            .finish();
       send("objectInstanceNameReservationSucceeded_S_Native", frame);
    }
 
    void multipleObjectInstanceNameReservationSucceeded(Set<String> theObjectInstanceNames) {
-      byte[] frame = new FrameWriter(_handle).stringSet(theObjectInstanceNames).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .stringSet(theObjectInstanceNames)
+            .finish();
       send("multipleObjectInstanceNameReservationSucceeded_S_Native", frame);
    }
 
    void objectInstanceNameReservationFailed(String theObjectInstanceName) {
-      byte[] frame = new FrameWriter(_handle).string(theObjectInstanceName).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .string(theObjectInstanceName)
+            .finish();
       send("objectInstanceNameReservationFailed_S_Native", frame);
    }
 
    void multipleObjectInstanceNameReservationFailed(Set<String> theObjectInstanceNames) {
-      byte[] frame = new FrameWriter(_handle).stringSet(theObjectInstanceNames).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .stringSet(theObjectInstanceNames)
+            .finish();
       send("multipleObjectInstanceNameReservationFailed_S_Native", frame);
    }
 
    void discoverObjectInstance(int theObject, int theClass, String theObjectInstanceName) {
-      byte[] frame = new FrameWriter(_handle).integer(theObject).integer(theClass)
-           .string(theObjectInstanceName).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theObject)
+            .integer(theClass)
+            .string(theObjectInstanceName)
+            .finish();
       send("discoverObjectInstance_OIH_OCH_S_Native", frame);
    }
 
-   void discoverObjectInstance(int theObject, int theClass, String theObjectInstanceName, int
-         theProducingFederate) {
-      byte[] frame = new FrameWriter(_handle).integer(theObject).integer(theClass)
-           .string(theObjectInstanceName).integer(theProducingFederate).finish();
+   void discoverObjectInstance(int theObject, int theClass, String theObjectInstanceName,
+         int theProducingFederate) {
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theObject)
+            .integer(theClass)
+            .string(theObjectInstanceName)
+            .integer(theProducingFederate)
+            .finish();
       send("discoverObjectInstance_OIH_OCH_S_FH_Native", frame);
    }
 
-   void reflectAttributeValues(int theObject, Map<Integer, byte[]> theAttributeValues, byte[]
-         theUserSuppliedTag, int sentOrder, int theType, Supplement theReflectInfo) {
-      byte[] frame = new FrameWriter(_handle).integer(theObject).values(theAttributeValues)
-           .bytes(theUserSuppliedTag).integer(sentOrder).integer(theType)
-           .supplement(theReflectInfo).finish();
+   void reflectAttributeValues(int theObject, Map<Integer, byte[]> theAttributeValues,
+         byte[] theUserSuppliedTag, int sentOrder, int theType, Supplement theReflectInfo) {
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theObject)
+            .values(theAttributeValues)
+            .bytes(theUserSuppliedTag)
+            .integer(sentOrder)
+            .integer(theType)
+            .supplement(theReflectInfo)
+            .finish();
       send("reflectAttributeValues_OIH_AHVM_BX_OT_TTH_FASRI_Native", frame);
    }
 
-   void reflectAttributeValues(int theObject, Map<Integer, byte[]> theAttributeValues, byte[]
-         theUserSuppliedTag, int sentOrder, int theType, byte[] theTime, int receivedOrder,
+   void reflectAttributeValues(int theObject, Map<Integer, byte[]> theAttributeValues,
+         byte[] theUserSuppliedTag, int sentOrder, int theType, byte[] theTime, int receivedOrder,
          Supplement theReflectInfo) {
-      byte[] frame = new FrameWriter(_handle).integer(theObject).values(theAttributeValues)
-           .bytes(theUserSuppliedTag).integer(sentOrder).integer(theType).time(theTime)
-           .integer(receivedOrder).supplement(theReflectInfo).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theObject)
+            .values(theAttributeValues)
+            .bytes(theUserSuppliedTag)
+            .integer(sentOrder)
+            .integer(theType)
+            .time(theTime)
+            .integer(receivedOrder)
+            .supplement(theReflectInfo)
+            .finish();
       send("reflectAttributeValues_OIH_AHVM_BX_OT_TTH_LT_OT_FASRI_Native", frame);
    }
 
-   void reflectAttributeValues(int theObject, Map<Integer, byte[]> theAttributeValues, byte[]
-         theUserSuppliedTag, int sentOrder, int theType, byte[] theTime, int receivedOrder, int
-         theHandle, Supplement theReflectInfo) {
-      byte[] frame = new FrameWriter(_handle).integer(theObject).values(theAttributeValues)
-           .bytes(theUserSuppliedTag).integer(sentOrder).integer(theType).time(theTime)
-           .integer(receivedOrder).retraction(theHandle).supplement(theReflectInfo).finish();
+   void reflectAttributeValues(int theObject, Map<Integer, byte[]> theAttributeValues,
+         byte[] theUserSuppliedTag, int sentOrder, int theType, byte[] theTime, int receivedOrder,
+         int theHandle, Supplement theReflectInfo) {
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theObject)
+            .values(theAttributeValues)
+            .bytes(theUserSuppliedTag)
+            .integer(sentOrder)
+            .integer(theType)
+            .time(theTime)
+            .integer(receivedOrder)
+            .retraction(theHandle)
+            .supplement(theReflectInfo)
+            .finish();
       send("reflectAttributeValues_OIH_AHVM_BX_OT_TTH_LT_OT_MRH_FASRI_Native", frame);
    }
 
-   void receiveInteraction(int theInteraction, Map<Integer, byte[]> theParameterValues, byte[]
-         theUserSuppliedTag, int sentOrder, int theType, Supplement theReceiveInfo) {
-      byte[] frame = new FrameWriter(_handle).integer(theInteraction).values(theParameterValues)
-           .bytes(theUserSuppliedTag).integer(sentOrder).integer(theType)
-           .supplement(theReceiveInfo).finish();
+   void receiveInteraction(int theInteraction, Map<Integer, byte[]> theParameterValues,
+         byte[] theUserSuppliedTag, int sentOrder, int theType, Supplement theReceiveInfo) {
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theInteraction)
+            .values(theParameterValues)
+            .bytes(theUserSuppliedTag)
+            .integer(sentOrder)
+            .integer(theType)
+            .supplement(theReceiveInfo)
+            .finish();
       send("receiveInteraction_ICH_PHVM_BX_OT_TTH_FASRI_Native", frame);
    }
 
-   void receiveInteraction(int theInteraction, Map<Integer, byte[]> theParameterValues, byte[]
-         theUserSuppliedTag, int sentOrder, int theType, byte[] theTime, int receivedOrder,
+   void receiveInteraction(int theInteraction, Map<Integer, byte[]> theParameterValues,
+         byte[] theUserSuppliedTag, int sentOrder, int theType, byte[] theTime, int receivedOrder,
          Supplement theReceiveInfo) {
-      byte[] frame = new FrameWriter(_handle).integer(theInteraction).values(theParameterValues)
-           .bytes(theUserSuppliedTag).integer(sentOrder).integer(theType).time(theTime)
-           .integer(receivedOrder).supplement(theReceiveInfo).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theInteraction)
+            .values(theParameterValues)
+            .bytes(theUserSuppliedTag)
+            .integer(sentOrder)
+            .integer(theType)
+            .time(theTime)
+            .integer(receivedOrder)
+            .supplement(theReceiveInfo)
+            .finish();
       send("receiveInteraction_ICH_PHVM_BX_OT_TTH_LT_OT_FASRI_Native", frame);
    }
 
-   void receiveInteraction(int theInteraction, Map<Integer, byte[]> theParameterValues, byte[]
-         theUserSuppliedTag, int sentOrder, int theType, byte[] theTime, int receivedOrder, int
-         theHandle, Supplement theReceiveInfo) {
-      byte[] frame = new FrameWriter(_handle).integer(theInteraction).values(theParameterValues)
-           .bytes(theUserSuppliedTag).integer(sentOrder).integer(theType).time(theTime)
-           .integer(receivedOrder).retraction(theHandle).supplement(theReceiveInfo).finish();
+   void receiveInteraction(int theInteraction, Map<Integer, byte[]> theParameterValues,
+         byte[] theUserSuppliedTag, int sentOrder, int theType, byte[] theTime, int receivedOrder,
+         int theHandle, Supplement theReceiveInfo) {
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theInteraction)
+            .values(theParameterValues)
+            .bytes(theUserSuppliedTag)
+            .integer(sentOrder)
+            .integer(theType)
+            .time(theTime)
+            .integer(receivedOrder)
+            .retraction(theHandle)
+            .supplement(theReceiveInfo)
+            .finish();
       send("receiveInteraction_ICH_PHVM_BX_OT_TTH_LT_OT_MRH_FASRI_Native", frame);
    }
 
-   void removeObjectInstance(int theObject, byte[] theUserSuppliedTag, int sentOrder, Supplement
-         theRemoveInfo) {
-      byte[] frame = new FrameWriter(_handle).integer(theObject).bytes(theUserSuppliedTag)
-           .integer(sentOrder).producer(theRemoveInfo).finish();
+   void removeObjectInstance(int theObject, byte[] theUserSuppliedTag, int sentOrder,
+         Supplement theRemoveInfo) {
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theObject)
+            .bytes(theUserSuppliedTag)
+            .integer(sentOrder)
+            .producer(theRemoveInfo)
+            .finish();
       send("removeObjectInstance_OIH_BX_OT_FASRI_Native", frame);
    }
 
-   void removeObjectInstance(int theObject, byte[] theUserSuppliedTag, int sentOrder, byte[]
-         theTime, int receivedOrder, Supplement theRemoveInfo) {
-      byte[] frame = new FrameWriter(_handle).integer(theObject).bytes(theUserSuppliedTag)
-           .integer(sentOrder).time(theTime).integer(receivedOrder).producer(theRemoveInfo)
-           .finish();
+   void removeObjectInstance(int theObject, byte[] theUserSuppliedTag, int sentOrder,
+         byte[] theTime, int receivedOrder, Supplement theRemoveInfo) {
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theObject)
+            .bytes(theUserSuppliedTag)
+            .integer(sentOrder)
+            .time(theTime)
+            .integer(receivedOrder)
+            .producer(theRemoveInfo)
+            .finish();
       send("removeObjectInstance_OIH_BX_OT_LT_OT_FASRI_Native", frame);
    }
 
-   void removeObjectInstance(int theObject, byte[] theUserSuppliedTag, int sentOrder, byte[]
-         theTime, int receivedOrder, int theHandle, Supplement theRemoveInfo) {
-      byte[] frame = new FrameWriter(_handle).integer(theObject).bytes(theUserSuppliedTag)
-           .integer(sentOrder).time(theTime).integer(receivedOrder).retraction(theHandle)
-           .producer(theRemoveInfo).finish();
+   void removeObjectInstance(int theObject, byte[] theUserSuppliedTag, int sentOrder,
+         byte[] theTime, int receivedOrder, int theHandle, Supplement theRemoveInfo) {
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theObject)
+            .bytes(theUserSuppliedTag)
+            .integer(sentOrder)
+            .time(theTime)
+            .integer(receivedOrder)
+            .retraction(theHandle)
+            .producer(theRemoveInfo)
+            .finish();
       send("removeObjectInstance_OIH_BX_OT_LT_OT_MRH_FASRI_Native", frame);
    }
 
    void attributesInScope(int theObject, Set<Integer> theAttributes) {
-      byte[] frame = new FrameWriter(_handle).integer(theObject).integers(theAttributes)
-           .finish();
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theObject)
+            .integers(theAttributes)
+            .finish();
       send("attributesInScope_OIH_AHS_Native", frame);
    }
 
    void attributesOutOfScope(int theObject, Set<Integer> theAttributes) {
-      byte[] frame = new FrameWriter(_handle).integer(theObject).integers(theAttributes)
-           .finish();
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theObject)
+            .integers(theAttributes)
+            .finish();
       send("attributesOutOfScope_OIH_AHS_Native", frame);
    }
 
-   void provideAttributeValueUpdate(int theObject, Set<Integer> theAttributes, byte[]
-         theUserSuppliedTag) {
-      byte[] frame = new FrameWriter(_handle).integer(theObject).integers(theAttributes)
-           .bytes(theUserSuppliedTag).finish();
+   void provideAttributeValueUpdate(int theObject, Set<Integer> theAttributes,
+         byte[] theUserSuppliedTag) {
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theObject)
+            .integers(theAttributes)
+            .bytes(theUserSuppliedTag)
+            .finish();
       send("provideAttributeValueUpdate_OIH_AHS_BX_Native", frame);
    }
 
    void turnUpdatesOnForObjectInstance(int theObject, Set<Integer> theAttributes) {
-      byte[] frame = new FrameWriter(_handle).integer(theObject).integers(theAttributes)
-           .finish();
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theObject)
+            .integers(theAttributes)
+            .finish();
       send("turnUpdatesOnForObjectInstance_OIH_AHS_Native", frame);
    }
 
-   void turnUpdatesOnForObjectInstance(int theObject, Set<Integer> theAttributes, String
-         updateRateDesignator) {
-      byte[] frame = new FrameWriter(_handle).integer(theObject).integers(theAttributes)
-           .string(updateRateDesignator).finish();
+   void turnUpdatesOnForObjectInstance(int theObject, Set<Integer> theAttributes,
+         String updateRateDesignator) {
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theObject)
+            .integers(theAttributes)
+            .string(updateRateDesignator)
+            .finish();
       send("turnUpdatesOnForObjectInstance_OIH_AHS_S_Native", frame);
    }
 
    void turnUpdatesOffForObjectInstance(int theObject, Set<Integer> theAttributes) {
-      byte[] frame = new FrameWriter(_handle).integer(theObject).integers(theAttributes)
-           .finish();
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theObject)
+            .integers(theAttributes)
+            .finish();
       send("turnUpdatesOffForObjectInstance_OIH_AHS_Native", frame);
    }
 
-   void confirmAttributeTransportationTypeChange(int theObject, Set<Integer> theAttributes, int
-         theType) {
-      byte[] frame = new FrameWriter(_handle).integer(theObject).integers(theAttributes)
-           .integer(theType).finish();
+   void confirmAttributeTransportationTypeChange(int theObject, Set<Integer> theAttributes,
+         int theType) {
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theObject)
+            .integers(theAttributes)
+            .integer(theType)
+            .finish();
       send("confirmAttributeTransportationTypeChange_OIH_AHS_TTH_Native", frame);
    }
 
    void confirmInteractionTransportationTypeChange(int theInteraction, int theType) {
-      byte[] frame = new FrameWriter(_handle).integer(theInteraction).integer(theType).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theInteraction)
+            .integer(theType)
+            .finish();
       send("confirmInteractionTransportationTypeChange_ICH_TTH_Native", frame);
    }
 
    void reportAttributeTransportationType(int theObject, int theAttribute, int theType) {
-      byte[] frame = new FrameWriter(_handle).integer(theObject).integer(theAttribute)
-           .integer(theType).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theObject)
+            .integer(theAttribute)
+            .integer(theType)
+            .finish();
       send("reportAttributeTransportationType_OIH_AH_TTH_Native", frame);
    }
 
    void reportInteractionTransportationType(int theFederate, int theInteraction, int theType) {
-      byte[] frame = new FrameWriter(_handle).integer(theFederate).integer(theInteraction)
-           .integer(theType).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theFederate)
+            .integer(theInteraction)
+            .integer(theType)
+            .finish();
       send("reportInteractionTransportationType_FH_ICH_TTH_Native", frame);
    }
 
-   void requestAttributeOwnershipAssumption(int theObject, Set<Integer> offeredAttributes, byte[]
-         theUserSuppliedTag) {
-      byte[] frame = new FrameWriter(_handle).integer(theObject).integers(offeredAttributes)
-           .bytes(theUserSuppliedTag).finish();
+   void requestAttributeOwnershipAssumption(int theObject, Set<Integer> offeredAttributes,
+         byte[] theUserSuppliedTag) {
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theObject)
+            .integers(offeredAttributes)
+            .bytes(theUserSuppliedTag)
+            .finish();
       send("requestAttributeOwnershipAssumption_OIH_AHS_BX_Native", frame);
    }
 
    void requestDivestitureConfirmation(int theObject, Set<Integer> theAttributes) {
-      byte[] frame = new FrameWriter(_handle).integer(theObject).integers(theAttributes)
-           .finish();
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theObject)
+            .integers(theAttributes)
+            .finish();
       send("requestDivestitureConfirmation_OIH_AHS_Native", frame);
    }
 
    void attributeOwnershipAcquisitionNotification(int theObject, Set<Integer> securedAttributes,
          byte[] theUserSuppliedTag) {
-      byte[] frame = new FrameWriter(_handle).integer(theObject).integers(securedAttributes)
-           .bytes(theUserSuppliedTag).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theObject)
+            .integers(securedAttributes)
+            .bytes(theUserSuppliedTag)
+            .finish();
       send("attributeOwnershipAcquisitionNotification_OIH_AHS_BX_Native", frame);
    }
 
    void attributeOwnershipUnavailable(int theObject, Set<Integer> theAttributes) {
-      byte[] frame = new FrameWriter(_handle).integer(theObject).integers(theAttributes)
-           .finish();
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theObject)
+            .integers(theAttributes)
+            .finish();
       send("attributeOwnershipUnavailable_OIH_AHS_Native", frame);
    }
 
-   void requestAttributeOwnershipRelease(int theObject, Set<Integer> candidateAttributes, byte[]
-         theUserSuppliedTag) {
-      byte[] frame = new FrameWriter(_handle).integer(theObject).integers(candidateAttributes)
-           .bytes(theUserSuppliedTag).finish();
+   void requestAttributeOwnershipRelease(int theObject, Set<Integer> candidateAttributes,
+         byte[] theUserSuppliedTag) {
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theObject)
+            .integers(candidateAttributes)
+            .bytes(theUserSuppliedTag)
+            .finish();
       send("requestAttributeOwnershipRelease_OIH_AHS_BX_Native", frame);
    }
 
    void confirmAttributeOwnershipAcquisitionCancellation(int theObject, Set<Integer> theAttributes)
          {
-      byte[] frame = new FrameWriter(_handle).integer(theObject).integers(theAttributes)
-           .finish();
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theObject)
+            .integers(theAttributes)
+            .finish();
       send("confirmAttributeOwnershipAcquisitionCancellation_OIH_AHS_Native", frame);
    }
 
    void informAttributeOwnership(int theObject, int theAttribute, int theOwner) {
-      byte[] frame = new FrameWriter(_handle).integer(theObject).integer(theAttribute)
-           .integer(theOwner).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theObject)
+            .integer(theAttribute)
+            .integer(theOwner)
+            .finish();
       send("informAttributeOwnership_OIH_AH_FH_Native", frame);
    }
 
    void attributeIsNotOwned(int theObject, int theAttribute) {
-      byte[] frame = new FrameWriter(_handle).integer(theObject).integer(theAttribute).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theObject)
+            .integer(theAttribute)
+            .finish();
       send("attributeIsNotOwned_OIH_AH_Native", frame);
    }
 
    void attributeIsOwnedByRTI(int theObject, int theAttribute) {
-      byte[] frame = new FrameWriter(_handle).integer(theObject).integer(theAttribute).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .integer(theObject)
+            .integer(theAttribute)
+            .finish();
       send("attributeIsOwnedByRTI_OIH_AH_Native", frame);
    }
 
    void timeRegulationEnabled(byte[] theTime) {
-      byte[] frame = new FrameWriter(_handle).time(theTime).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .time(theTime)
+            .finish();
       send("timeRegulationEnabled_LT_Native", frame);
    }
 
    void timeConstrainedEnabled(byte[] theTime) {
-      byte[] frame = new FrameWriter(_handle).time(theTime).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .time(theTime)
+            .finish();
       send("timeConstrainedEnabled_LT_Native", frame);
    }
 
    void timeAdvanceGrant(byte[] theTime) {
-      byte[] frame = new FrameWriter(_handle).time(theTime).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .time(theTime)
+            .finish();
       send("timeAdvanceGrant_LT_Native", frame);
    }
 
    void requestRetraction(int theHandle) {
-      byte[] frame = new FrameWriter(_handle).retraction(theHandle).finish();
+      byte[] frame = new FrameWriter(_handle)
+            .retraction(theHandle)
+            .finish();
       send("requestRetraction_MRH_Native", frame);
    }
 }

@@ -14,11 +14,11 @@ public interface DataDistributionManagement {
 
    void deleteRegion(int theRegion) throws RTIexception;
 
-   int registerObjectInstanceWithRegions(int theClass, List<AttributeRegions>
-         theAttributesAndRegions) throws RTIexception;
+   int registerObjectInstanceWithRegions(int theClass,
+         List<AttributeRegions> theAttributesAndRegions) throws RTIexception;
 
-   int registerObjectInstanceWithRegions(int theClass, List<AttributeRegions>
-         theAttributesAndRegions, String theName) throws RTIexception;
+   int registerObjectInstanceWithRegions(int theClass,
+         List<AttributeRegions> theAttributesAndRegions, String theName) throws RTIexception;
 
    void associateRegionsForUpdates(int theObject, List<AttributeRegions> theAttributesAndRegions)
          throws RTIexception;
@@ -26,17 +26,18 @@ public interface DataDistributionManagement {
    void unassociateRegionsForUpdates(int theObject, List<AttributeRegions> theAttributesAndRegions)
          throws RTIexception;
 
-   void subscribeObjectClassAttributesWithRegions(int theClass, List<AttributeRegions>
-         theAttributesAndRegions, boolean active, String updateRateDesignator) throws RTIexception;
+   void subscribeObjectClassAttributesWithRegions(int theClass,
+         List<AttributeRegions> theAttributesAndRegions, boolean active,
+         String updateRateDesignator) throws RTIexception;
 
-   void unsubscribeObjectClassAttributesWithRegions(int theClass, List<AttributeRegions>
-         theAttributesAndRegions) throws RTIexception;
+   void unsubscribeObjectClassAttributesWithRegions(int theClass,
+         List<AttributeRegions> theAttributesAndRegions) throws RTIexception;
 
-   void subscribeInteractionClassWithRegions(int theInteraction, boolean active, Set<Integer>
-         theRegions) throws RTIexception;
+   void subscribeInteractionClassWithRegions(int theInteraction, boolean active,
+         Set<Integer> theRegions) throws RTIexception;
 
-   void unsubscribeInteractionClassWithRegions(int theInteraction, Set<Integer> theRegions) throws
-         RTIexception;
+   void unsubscribeInteractionClassWithRegions(int theInteraction, Set<Integer> theRegions)
+         throws RTIexception;
 
    void sendInteractionWithRegions(int theInteraction, Map<Integer, byte[]> theParameterValues,
          Set<Integer> theRegions, byte[] theUserSuppliedTag) throws RTIexception;
@@ -44,6 +45,7 @@ public interface DataDistributionManagement {
    byte[] sendInteractionWithRegions(int theInteraction, Map<Integer, byte[]> theParameterValues,
          Set<Integer> theRegions, byte[] theUserSuppliedTag, byte[] theTime) throws RTIexception;
 
-   void requestAttributeValueUpdateWithRegions(int theClass, List<AttributeRegions>
-         theAttributesAndRegions, byte[] theUserSuppliedTag) throws RTIexception;
+   void requestAttributeValueUpdateWithRegions(int theClass,
+         List<AttributeRegions> theAttributesAndRegions, byte[] theUserSuppliedTag)
+         throws RTIexception;
 }

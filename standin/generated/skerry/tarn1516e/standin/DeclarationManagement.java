@@ -10,8 +10,8 @@ public interface DeclarationManagement {
 
    void unpublishObjectClass(int theClass) throws RTIexception;
 
-   void unpublishObjectClassAttributes(int theClass, Set<Integer> theAttributes) throws
-         RTIexception;
+   void unpublishObjectClassAttributes(int theClass, Set<Integer> theAttributes)
+         throws RTIexception;
 
    void publishInteractionClass(int theInteraction) throws RTIexception;
 
@@ -22,8 +22,8 @@ public interface DeclarationManagement {
 
    void unsubscribeObjectClass(int theClass) throws RTIexception;
 
-   void unsubscribeObjectClassAttributes(int theClass, Set<Integer> theAttributes) throws
-         RTIexception;
+   void unsubscribeObjectClassAttributes(int theClass, Set<Integer> theAttributes)
+         throws RTIexception;
 
    void subscribeInteractionClass(int theInteraction, boolean active) throws RTIexception;
 

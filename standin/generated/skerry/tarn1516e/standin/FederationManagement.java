@@ -12,32 +12,32 @@ public interface FederationManagement {
 
    void disconnect() throws RTIexception;
 
-   void createFederationExecution(String federationExecutionName, String fomModule, String
-         logicalTimeImplementationName) throws RTIexception;
+   void createFederationExecution(String federationExecutionName, String fomModule,
+         String logicalTimeImplementationName) throws RTIexception;
 
-   void createFederationExecution(String federationExecutionName, List<String> fomModules, String
-         logicalTimeImplementationName) throws RTIexception;
+   void createFederationExecution(String federationExecutionName, List<String> fomModules,
+         String logicalTimeImplementationName) throws RTIexception;
 
-   void createFederationExecution(String federationExecutionName, List<String> fomModules, String
-         mimModule, String logicalTimeImplementationName) throws RTIexception;
+   void createFederationExecution(String federationExecutionName, List<String> fomModules,
+         String mimModule, String logicalTimeImplementationName) throws RTIexception;
 
    void destroyFederationExecution(String federationExecutionName) throws RTIexception;
 
    void listFederationExecutions() throws RTIexception;
 
-   int joinFederationExecution(String federateName, String federateType, String
-         federationExecutionName, List<String> additionalFomModules) throws RTIexception;
+   int joinFederationExecution(String federateName, String federateType,
+         String federationExecutionName, List<String> additionalFomModules) throws RTIexception;
 
-   int joinFederationExecution(String federateType, String federationExecutionName, List<String>
-         additionalFomModules) throws RTIexception;
+   int joinFederationExecution(String federateType, String federationExecutionName,
+         List<String> additionalFomModules) throws RTIexception;
 
    void resignFederationExecution(int theResignAction) throws RTIexception;
 
-   void registerFederationSynchronizationPoint(String label, byte[] theUserSuppliedTag) throws
-         RTIexception;
+   void registerFederationSynchronizationPoint(String label, byte[] theUserSuppliedTag)
+         throws RTIexception;
 
-   void registerFederationSynchronizationPoint(String label, byte[] theUserSuppliedTag, Set<Integer>
-         synchronizationSet) throws RTIexception;
+   void registerFederationSynchronizationPoint(String label, byte[] theUserSuppliedTag,
+         Set<Integer> synchronizationSet) throws RTIexception;
 
    void synchronizationPointAchieved(String label, boolean successfully) throws RTIexception;
 

@@ -19,38 +19,38 @@ public interface ObjectManagement {
 
    int registerObjectInstance(int theClass, String theName) throws RTIexception;
 
-   void updateAttributeValues(int theObject, Map<Integer, byte[]> theAttributeValues, byte[]
-         theUserSuppliedTag) throws RTIexception;
+   void updateAttributeValues(int theObject, Map<Integer, byte[]> theAttributeValues,
+         byte[] theUserSuppliedTag) throws RTIexception;
 
-   byte[] updateAttributeValues(int theObject, Map<Integer, byte[]> theAttributeValues, byte[]
-         theUserSuppliedTag, byte[] theTime) throws RTIexception;
+   byte[] updateAttributeValues(int theObject, Map<Integer, byte[]> theAttributeValues,
+         byte[] theUserSuppliedTag, byte[] theTime) throws RTIexception;
 
-   void sendInteraction(int theInteraction, Map<Integer, byte[]> theParameterValues, byte[]
-         theUserSuppliedTag) throws RTIexception;
+   void sendInteraction(int theInteraction, Map<Integer, byte[]> theParameterValues,
+         byte[] theUserSuppliedTag) throws RTIexception;
 
-   byte[] sendInteraction(int theInteraction, Map<Integer, byte[]> theParameterValues, byte[]
-         theUserSuppliedTag, byte[] theTime) throws RTIexception;
+   byte[] sendInteraction(int theInteraction, Map<Integer, byte[]> theParameterValues,
+         byte[] theUserSuppliedTag, byte[] theTime) throws RTIexception;
 
    void deleteObjectInstance(int theObject, byte[] theUserSuppliedTag) throws RTIexception;
 
-   byte[] deleteObjectInstance(int theObject, byte[] theUserSuppliedTag, byte[] theTime) throws
-         RTIexception;
+   byte[] deleteObjectInstance(int theObject, byte[] theUserSuppliedTag, byte[] theTime)
+         throws RTIexception;
 
    void localDeleteObjectInstance(int theObject) throws RTIexception;
 
-   void requestAttributeValueUpdate_OIH_AHS_BX(int theObject, Set<Integer> theAttributes, byte[]
-         theUserSuppliedTag) throws RTIexception;
+   void requestAttributeValueUpdate_OIH_AHS_BX(int theObject, Set<Integer> theAttributes,
+         byte[] theUserSuppliedTag) throws RTIexception;
 
-   void requestAttributeValueUpdate_OCH_AHS_BX(int theClass, Set<Integer> theAttributes, byte[]
-         theUserSuppliedTag) throws RTIexception;
+   void requestAttributeValueUpdate_OCH_AHS_BX(int theClass, Set<Integer> theAttributes,
+         byte[] theUserSuppliedTag) throws RTIexception;
 
-   void requestAttributeTransportationTypeChange(int theObject, Set<Integer> theAttributes, int
-         theType) throws RTIexception;
+   void requestAttributeTransportationTypeChange(int theObject, Set<Integer> theAttributes,
+         int theType) throws RTIexception;
 
    void queryAttributeTransportationType(int theObject, int theAttribute) throws RTIexception;
 
-   void requestInteractionTransportationTypeChange(int theInteraction, int theType) throws
-         RTIexception;
+   void requestInteractionTransportationTypeChange(int theInteraction, int theType)
+         throws RTIexception;
 
    void queryInteractionTransportationType(int theFederate, int theInteraction) throws RTIexception;
 }

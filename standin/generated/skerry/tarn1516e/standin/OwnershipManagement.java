@@ -6,32 +6,32 @@ import hla.rti1516e.exceptions.RTIexception;
 import java.util.Set;
 
 public interface OwnershipManagement {
-   void unconditionalAttributeOwnershipDivestiture(int theObject, Set<Integer> theAttributes) throws
-         RTIexception;
+   void unconditionalAttributeOwnershipDivestiture(int theObject, Set<Integer> theAttributes)
+         throws RTIexception;
 
-   void negotiatedAttributeOwnershipDivestiture(int theObject, Set<Integer> theAttributes, byte[]
-         theUserSuppliedTag) throws RTIexception;
+   void negotiatedAttributeOwnershipDivestiture(int theObject, Set<Integer> theAttributes,
+         byte[] theUserSuppliedTag) throws RTIexception;
 
    void confirmDivestiture(int theObject, Set<Integer> theAttributes, byte[] theUserSuppliedTag)
          throws RTIexception;
 
-   void attributeOwnershipAcquisition(int theObject, Set<Integer> theAttributes, byte[]
-         theUserSuppliedTag) throws RTIexception;
+   void attributeOwnershipAcquisition(int theObject, Set<Integer> theAttributes,
+         byte[] theUserSuppliedTag) throws RTIexception;
 
-   void attributeOwnershipAcquisitionIfAvailable(int theObject, Set<Integer> theAttributes) throws
-         RTIexception;
+   void attributeOwnershipAcquisitionIfAvailable(int theObject, Set<Integer> theAttributes)
+         throws RTIexception;
 
-   void attributeOwnershipReleaseDenied(int theObject, Set<Integer> theAttributes) throws
-         RTIexception;
+   void attributeOwnershipReleaseDenied(int theObject, Set<Integer> theAttributes)
+         throws RTIexception;
 
-   int[] attributeOwnershipDivestitureIfWanted(int theObject, Set<Integer> theAttributes) throws
-         RTIexception;
+   int[] attributeOwnershipDivestitureIfWanted(int theObject, Set<Integer> theAttributes)
+         throws RTIexception;
 
    void cancelNegotiatedAttributeOwnershipDivestiture(int theObject, Set<Integer> theAttributes)
          throws RTIexception;
 
-   void cancelAttributeOwnershipAcquisition(int theObject, Set<Integer> theAttributes) throws
-         RTIexception;
+   void cancelAttributeOwnershipAcquisition(int theObject, Set<Integer> theAttributes)
+         throws RTIexception;
 
    void queryAttributeOwnership(int theObject, int theAttribute) throws RTIexception;
 

@@ -47,8 +47,8 @@ public interface SupportServices {
 
    String getTransportationTypeName(int theType) throws RTIexception;
 
-   int[] getAvailableDimensionsForClassAttribute(int theClass, int theAttribute) throws
-         RTIexception;
+   int[] getAvailableDimensionsForClassAttribute(int theClass, int theAttribute)
+         throws RTIexception;
 
    int[] getAvailableDimensionsForInteractionClass(int theInteraction) throws RTIexception;
 
@@ -86,8 +86,8 @@ public interface SupportServices {
 
    boolean evokeCallback(double approximateMinimumTimeInSeconds) throws RTIexception;
 
-   boolean evokeMultipleCallbacks(double approximateMinimumTimeInSeconds, double
-         approximateMaximumTimeInSeconds) throws RTIexception;
+   boolean evokeMultipleCallbacks(double approximateMinimumTimeInSeconds,
+         double approximateMaximumTimeInSeconds) throws RTIexception;
 
    void enableCallbacks() throws RTIexception;
 

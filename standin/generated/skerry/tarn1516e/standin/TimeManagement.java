@@ -40,8 +40,8 @@ public interface TimeManagement {
 
    void retract(int theHandle) throws RTIexception;
 
-   void changeAttributeOrderType(int theObject, Set<Integer> theAttributes, int theOrder) throws
-         RTIexception;
+   void changeAttributeOrderType(int theObject, Set<Integer> theAttributes, int theOrder)
+         throws RTIexception;
 
    void changeInteractionOrderType(int theInteraction, int theOrder) throws RTIexception;
 }

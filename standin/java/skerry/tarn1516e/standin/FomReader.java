@@ -166,9 +166,7 @@ final class FomReader {
       String name = fullName(element, parent == null ? null : parent.name, Fom.INTERACTION_ROOT);
       Fom.InteractionClass known = _fom.interactionClass(name);
       Fom.InteractionClass read = known != null ? known : _fom.addInteractionClass(name, parent);
-      if (known == null || !children(element, "transportation").isEmpty()) {
-         readSent(element, read);
-      }
+      readSent(element, read);
       List<Element> parameters = children(element, "parameter");
       int inherited = parent == null ? 0 : parent.parameters.size();
       boolean isComplete = known != null && known.parameters.size() > inherited;
@@ -190,12 +188,17 @@ final class FomReader {
       }
    }
 
+   /** What the element does not tell stays as it was. */
    private void readSent(Element element, Fom.Sent to) throws InconsistentFDD {
       String order = text(element, "order");
-      to.order = "TimeStamp".equalsIgnoreCase(order) ? Fom.TIMESTAMP : Fom.RECEIVE;
+      if (order != null) {
+         to.order = order.equalsIgnoreCase("TimeStamp") ? Fom.TIMESTAMP : Fom.RECEIVE;
+      }
       String transportation = text(element, "transportation");
-      to.transportation =
-            "HLAbestEffort".equals(transportation) ? Fom.BEST_EFFORT : Fom.RELIABLE;
+      if (transportation != null) {
+         to.transportation =
+               transportation.equals("HLAbestEffort") ? Fom.BEST_EFFORT : Fom.RELIABLE;
+      }
       for (Element each : children(element, "dimensions", "dimension")) {
          Fom.Dimension dimension = _fom.dimension(each.getTextContent().trim());
          if (dimension == null) {
