@@ -43,7 +43,8 @@ void throwJava(JNIEnv* env, char const* className, std::wstring const& message);
 
 // The exceptions that a service tries, first to last; one of them may be a ladder itself.
 template <class... Rungs>
-struct Ladder {};
+struct Ladder {
+};
 
 template <class Rung>
 struct Climb {

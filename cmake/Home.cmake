@@ -16,9 +16,7 @@ file(CREATE_LINK ${JDK_HOME} ${STAGED_HOME}/jre SYMBOLIC)
 
 function(tarn_place_in_home target)
    set_target_properties(${target} PROPERTIES
-      LIBRARY_OUTPUT_DIRECTORY ${STAGED_HOME}/lib/${TARN_TOOLCHAIN}
-      VERSION ${PROJECT_VERSION}
-      SOVERSION ${PROJECT_VERSION_MAJOR})
+      LIBRARY_OUTPUT_DIRECTORY ${STAGED_HOME}/lib/${TARN_TOOLCHAIN})
    # The two libraries find each other where they lie side by side.
    if(APPLE)
       set_target_properties(${target} PROPERTIES BUILD_RPATH "@loader_path"

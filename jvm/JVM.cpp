@@ -170,8 +170,7 @@ std::wstring jniResult(long status)
 std::string get_current_path()
 {
    char path[512];
-   return getcwd(path, sizeof path) != nullptr ? path
-                                               : "<error retrieving current directory>";
+   return getcwd(path, sizeof path) != nullptr ? path : "<error retrieving current directory>";
 }
 
 // ---- The installation, and the VM library ----------------------------------------------------
@@ -185,13 +184,13 @@ std::string findTarnHome()
    std::string const path = library.dli_fname;
    if (!path.empty()) {
       traceLine("Loaded tarn1516e library from '" + path + "'");
-      std::string const candidate = getDirName(path) + "../../";
+      std::string candidate = getDirName(path) + "../../";
       if (isTarnHome(candidate)) {
          return candidate;
       }
    }
    if (char const* const value = std::getenv("TARN1516E_HOME")) {
-      std::string const candidate = std::string(value) + "/";
+      std::string candidate = std::string(value) + "/";
       if (isTarnHome(candidate)) {
          return candidate;
       }
@@ -261,7 +260,7 @@ void loadJvm(std::string const& home)
 
 std::string findJvm(std::string const& home)
 {
-   std::string const path = home + vmBelowHome;
+   std::string path = home + vmBelowHome;
    traceLine("Looking for JVM at '" + path + "'");
    if (!fileExists(path)) {
       return std::string();

@@ -56,8 +56,7 @@ private:
 // trailing '/', or empty.
 std::string findTarnHome();
 void loadJvm(std::string const& home);
-void loadOptions(
-      JavaVMOption* options, int& optionCount, int maxOptions, std::string const& home);
+void loadOptions(JavaVMOption* options, int& optionCount, int maxOptions, std::string const& home);
 
 // What they are made of.
 std::string get_current_path();

@@ -12,7 +12,7 @@ inline std::wstring copyString(JNIEnv* env, jstring text)
 {
    jsize const length = env->GetStringLength(text);
    jchar const* const units = env->GetStringCritical(text, nullptr);
-   std::wstring const copy(units, units + length);
+   std::wstring copy(units, units + length);
    env->ReleaseStringCritical(text, units);
    return copy;
 }

@@ -46,7 +46,7 @@ thread::thread(void (*function)(void*), void* argument)
    if (_handle == 0) {
       _notAThread = true;
    } else {
-      record.release(); // the new thread's
+      static_cast<void>(record.release()); // the new thread's
    }
 }
 

@@ -37,7 +37,9 @@ extern char const* const javaFederateInternalErrorClass;
 class CallbackFrame {
 public:
    CallbackFrame(JNIEnv* env, jbyteArray array)
-         : _env(env), _array(array), _pinned(env->GetPrimitiveArrayCritical(array, nullptr)),
+         : _env(env),
+           _array(array),
+           _pinned(env->GetPrimitiveArrayCritical(array, nullptr)),
            _buffer(static_cast<char*>(_pinned))
    {
    }

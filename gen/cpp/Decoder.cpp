@@ -11,7 +11,7 @@ namespace rti1516e {
 
 MessageRetractionHandle makeMessageRetractionHandle(ByteWrapper& buffer)
 {
-   MessageRetractionHandle const handle = MessageRetractionHandleFriend::makeHandle(buffer.getPtr());
+   MessageRetractionHandle handle = MessageRetractionHandleFriend::makeHandle(buffer.getPtr());
    buffer.advance(handle.encodedLength());
    return handle;
 }
@@ -55,8 +55,8 @@ void readHandleSet(ByteWrapper& buffer, Handle (*makeHandle)(int), std::set<Hand
 
 // The last of several values for one handle stays.
 template <class Handle>
-void readValueMap(ByteWrapper& buffer, Handle (*makeHandle)(int),
-      std::map<Handle, VariableLengthData>& values)
+void readValueMap(
+      ByteWrapper& buffer, Handle (*makeHandle)(int), std::map<Handle, VariableLengthData>& values)
 {
    int const count = buffer.getInt();
    for (int i = 0; i < count; ++i) {

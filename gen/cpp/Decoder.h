@@ -79,30 +79,21 @@ private:
 // Class, value, and the expression that reads it from `buffer`.
 #define TARN_FOR_EACH_SIMPLE_DECODER(X)                                                            \
    X(JavaString, std::wstring, decodeString(buffer))                                               \
-   X(JavaSynchronizationPointFailureReason,                                                        \
-         rti1516e::SynchronizationPointFailureReason,                                              \
+   X(JavaSynchronizationPointFailureReason, rti1516e::SynchronizationPointFailureReason,           \
          decodeSyncFailureReason(buffer.getInt()))                                                 \
-   X(JavaSaveFailureReason,                                                                        \
-         rti1516e::SaveFailureReason,                                                              \
-         decodeSaveFailureReason(buffer.getInt()))                                                 \
-   X(JavaRestoreFailureReason,                                                                     \
-         rti1516e::RestoreFailureReason,                                                           \
+   X(JavaSaveFailureReason, rti1516e::SaveFailureReason, decodeSaveFailureReason(buffer.getInt())) \
+   X(JavaRestoreFailureReason, rti1516e::RestoreFailureReason,                                     \
          decodeRestoreFailureReason(buffer.getInt()))                                              \
    X(JavaOrderType, rti1516e::OrderType, decodeOrderType(buffer.getInt()))                         \
-   X(JavaTransportationTypeHandle,                                                                 \
-         rti1516e::TransportationType,                                                             \
+   X(JavaTransportationTypeHandle, rti1516e::TransportationType,                                   \
          decodeTransportationType(buffer.getInt()))                                                \
    X(JavaFederateHandle, rti1516e::FederateHandle, decodeFederateHandle(buffer))                   \
    X(JavaObjectClassHandle, rti1516e::ObjectClassHandle, decodeObjectClassHandle(buffer))          \
-   X(JavaInteractionClassHandle,                                                                   \
-         rti1516e::InteractionClassHandle,                                                         \
+   X(JavaInteractionClassHandle, rti1516e::InteractionClassHandle,                                 \
          decodeInteractionClassHandle(buffer))                                                     \
-   X(JavaObjectInstanceHandle,                                                                     \
-         rti1516e::ObjectInstanceHandle,                                                           \
-         decodeObjectInstanceHandle(buffer))                                                       \
+   X(JavaObjectInstanceHandle, rti1516e::ObjectInstanceHandle, decodeObjectInstanceHandle(buffer)) \
    X(JavaAttributeHandle, rti1516e::AttributeHandle, decodeAttributeHandle(buffer))                \
-   X(JavaMessageRetractionHandle,                                                                  \
-         rti1516e::MessageRetractionHandle,                                                        \
+   X(JavaMessageRetractionHandle, rti1516e::MessageRetractionHandle,                               \
          decodeMessageRetractionHandle(buffer))                                                    \
    X(JavaRegionHandleSet, rti1516e::RegionHandleSet, decodeRegionHandleSet(buffer))
 

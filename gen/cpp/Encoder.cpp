@@ -74,13 +74,13 @@ double returnDouble(JNIEnv*, double value)
 
 std::wstring returnString(JNIEnv* env, jstring text)
 {
-   std::wstring const copy = copyString(env, text);
+   std::wstring copy = copyString(env, text);
    env->DeleteLocalRef(text);
    return copy;
 }
 
 #define TARN_RETURN_HANDLE(H)                                                                      \
-   H return##H(JNIEnv*, int value)                                                                 \
+   H return ##H(JNIEnv*, int value)                                                                \
    {                                                                                               \
       return make##H(value);                                                                       \
    }
@@ -119,8 +119,7 @@ RangeBounds returnRangeBounds(JNIEnv* env, jlongArray bounds)
    jlong values[2];
    env->GetLongArrayRegion(bounds, 0, env->GetArrayLength(bounds), values);
    env->DeleteLocalRef(bounds);
-   return RangeBounds(
-         static_cast<unsigned long>(values[0]), static_cast<unsigned long>(values[1]));
+   return RangeBounds(static_cast<unsigned long>(values[0]), static_cast<unsigned long>(values[1]));
 }
 
 namespace {
@@ -162,7 +161,7 @@ MessageRetractionHandle returnMessageRetractionReturn(JNIEnv* env, jbyteArray ha
    }
    jsize const length = env->GetArrayLength(handle);
    void* const pinned = env->GetPrimitiveArrayCritical(handle, nullptr);
-   MessageRetractionHandle const result = makeMessageRetractionHandle(
+   MessageRetractionHandle result = makeMessageRetractionHandle(
          VariableLengthData(pinned, static_cast<unsigned long>(length)));
    env->ReleasePrimitiveArrayCritical(handle, pinned, 0);
    env->DeleteLocalRef(handle);

@@ -29,8 +29,8 @@
 #include <RTI/Typedefs.h>
 #include <RTI/VariableLengthData.h>
 
-#include <jni.h>
 #include <cstdint>
+#include <jni.h>
 #include <memory>
 #include <set>
 #include <string>
@@ -455,7 +455,7 @@ long returnLong(JNIEnv*, long value);
 double returnDouble(JNIEnv*, double value);
 std::wstring returnString(JNIEnv* env, jstring text);
 
-#define TARN_RETURN_HANDLE(H) rti1516e::H return##H(JNIEnv*, int value);
+#define TARN_RETURN_HANDLE(H) rti1516e::H return ##H(JNIEnv*, int value);
 RTI_FOR_EACH_HANDLE(TARN_RETURN_HANDLE)
 #undef TARN_RETURN_HANDLE
 
