@@ -138,7 +138,7 @@ final class FederationService implements FederationManagement {
       federation.addModules(modules);
       int handle = federation.nextMemberHandle();
       Member member = new Member(handle, name != null ? name : type + " " + handle, type,
-            federation, _loopback, _loopback.callbacks());
+            federation, _loopback.callbacks());
       _loopback.join(member);
       federation.add(member);
       return handle;

@@ -2,8 +2,8 @@
 // group. All federations of the VM live behind one lock.
 package skerry.tarn1516e.standin;
 
-import hla.rti1516e.exceptions.FederateNotExecutionMember;
 import hla.rti1516e.exceptions.CallNotAllowedFromWithinCallback;
+import hla.rti1516e.exceptions.FederateNotExecutionMember;
 import hla.rti1516e.exceptions.NotConnected;
 import hla.rti1516e.exceptions.RTIexception;
 import hla.rti1516e.exceptions.RTIinternalError;

@@ -17,7 +17,6 @@ final class Member {
    private final String _name;
    private final String _type;
    private final Federation _federation;
-   private final Loopback _loopback;
    private final CallbackQueue _callbacks;
    private final Declarations _declarations = new Declarations();
    private final InstanceAdvisories _instanceAdvisories;
@@ -27,13 +26,11 @@ final class Member {
    final Set<String> reservedNames = new HashSet<>();
    int resignDirective = Resignation.CANCEL_THEN_DELETE_THEN_DIVEST;
 
-   Member(int handle, String name, String type, Federation federation, Loopback loopback,
-         CallbackQueue callbacks) {
+   Member(int handle, String name, String type, Federation federation, CallbackQueue callbacks) {
       _handle = handle;
       _name = name;
       _type = type;
       _federation = federation;
-      _loopback = loopback;
       _callbacks = callbacks;
       _instanceAdvisories = new InstanceAdvisories(this);
       _time = new TimeState(this);
@@ -63,10 +60,6 @@ final class Member {
 
    Federation federation() {
       return _federation;
-   }
-
-   Loopback loopback() {
-      return _loopback;
    }
 
    CallbackQueue callbacks() {
