@@ -263,6 +263,7 @@ void registerNatives(JNIEnv* env)
    }};
    if (env->RegisterNatives(type, nm, sizeof nm / sizeof *nm) != 0) {{
       std::fprintf(stderr, "Failed to register native functions.\\n");
+      env->ExceptionClear(); // the ambassador is made all the same
    }}
 }}
 """
