@@ -247,6 +247,8 @@ JNINativeMethod native(char const* name, void (*function)(JNIEnv*, jobject, jbyt
 
 }} // namespace
 
+#define NATIVE(method) native(#method, Java_skerry_tarn1516e_FederateAmbassadorC2007_##method)
+
 void registerNatives(JNIEnv* env)
 {{
    jclass const type = env->FindClass("skerry/tarn1516e/FederateAmbassadorC2007");
@@ -293,9 +295,7 @@ def _natives(callbacks):
             group = callback.group
             out.append(f"// ---- {group} " + "-" * (90 - len(group)) + "\n")
         out.append(_native(callback))
-    table = "\n".join(
-        f'         native("{callback.native_name}",\n               {PREFIX}{callback.native_name}),'
-        for callback in callbacks)
+    table = "\n".join(f"         NATIVE({callback.native_name})," for callback in callbacks)
     out.append(REGISTER_NATIVES.format(table=table).strip("\n") + "\n")
     return "\n".join(out)
 
