@@ -32,7 +32,7 @@ final class Discovery {
          return;
       }
       instance.knownAs.put(member, known.handle);
-      if (fom.isSwitchedOn("conveyProducingFederate", true)) {
+      if (fom.isSwitchedOn("conveyProducingFederate", false)) {
          member.callbacks().discoverObjectInstance(
                instance.handle, known.handle, instance.name, instance.producer);
       } else {

@@ -120,11 +120,14 @@ final class Federation {
       return LogicalTime.decode(_timeName, encoded);
    }
 
-   /** Adds all the modules or, if they do not fit, none. */
+   /** Adds all the modules or, if they do not fit, none. One that is there already counts once. */
    void addModules(List<String> designators) throws RTIexception {
       List<Element> modules = new ArrayList<>(_modules);
       for (String designator : designators) {
-         modules.add(FomReader.open(designator));
+         Element opened = FomReader.open(designator);
+         if (modules.stream().noneMatch(module -> module.isEqualNode(opened))) {
+            modules.add(opened);
+         }
       }
       _fom = FomReader.merge(modules);
       _modules.clear();

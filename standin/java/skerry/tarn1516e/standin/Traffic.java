@@ -226,6 +226,6 @@ final class Traffic {
          }
       }
       return new Supplement(
-            fom.isSwitchedOn("conveyProducingFederate", true) ? _sender.handle() : 0, handles);
+            fom.isSwitchedOn("conveyProducingFederate", false) ? _sender.handle() : 0, handles);
    }
 }
