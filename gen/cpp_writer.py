@@ -267,6 +267,7 @@ void registerNatives(JNIEnv* env)
       std::fprintf(stderr, "Failed to register native functions.\\n");
       env->ExceptionClear(); // the ambassador is made all the same
    }}
+   env->DeleteLocalRef(type);
 }}
 """
 
