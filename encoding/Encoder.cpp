@@ -170,9 +170,7 @@ void appendBytes(std::vector<char>& buffer, char const* bytes, unsigned long cou
 
 void appendInt(std::vector<char>& buffer, int value)
 {
-   char bytes[4];
-   encodeHLAinteger32BE(value, bytes);
-   appendBytes(buffer, bytes, sizeof(bytes));
+   appendHLAinteger32BE(buffer, 1, value);
 }
 
 int decodeInt(std::vector<char> const& buffer, unsigned long index)
