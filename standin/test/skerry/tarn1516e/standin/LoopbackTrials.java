@@ -1,5 +1,5 @@
-// Trials of the loopback without a native library: federates in one program, their callbacks
-// compared as text. Takes the folder of the object models; ends with 1 at the first difference.
+// Trials of the stand-in without a native library: the script, and federates in one program, their
+// callbacks compared as text. Takes the folder of the object models; ends with 1 at the first difference.
 package skerry.tarn1516e.standin;
 
 import hla.rti1516e.exceptions.*;
@@ -12,6 +12,7 @@ import java.util.Collections;
 import java.util.LinkedHashMap;
 import java.util.Map;
 import java.util.TreeSet;
+import skerry.tarn1516e.RTIambassadorC2007;
 import skerry.tarn1516e.standin.Trial.Federate;
 
 import static skerry.tarn1516e.standin.Trial.*;
@@ -52,6 +53,7 @@ public final class LoopbackTrials {
       catchCallbacks();
       Map<String, Step> trials = new LinkedHashMap<>();
       trials.put("bodies", LoopbackTrials::bodies);
+      trials.put("script", LoopbackTrials::script);
       trials.put("federations", LoopbackTrials::federations);
       trials.put("object models", LoopbackTrials::objectModels);
       trials.put("synchronization points", LoopbackTrials::synchronizationPoints);
@@ -90,6 +92,36 @@ public final class LoopbackTrials {
       in = new BodyReader(retraction);
       same(-2, in.retraction());
       same(5, in.integer());
+   }
+
+   /** Answers come in their order, and a lasting one stays; what has none reaches the loopback. */
+   private void script() throws Exception {
+      RTIambassadorC2007 ambassador = new RTIambassadorC2007(new byte[4]);
+      byte[] name = {0, 0, 0, 1, 0, 'x'};
+      fails(NotConnected.class, () -> ambassador.getFederateHandle_S(name));
+      Script.answerInt("getFederateHandle_S", 5, false);
+      Script.answerThrow("getFederateHandle_S", "java/lang/IllegalStateException", "no", false);
+      Script.answerInt("getFederateHandle_S", 6, true);
+      Script.answerString("getTimeFactory", null, false);
+      Script.answerDefault("getTimeFactory", false);
+      Script.record(true);
+      same(5, ambassador.getFederateHandle_S(name));
+      fails(IllegalStateException.class, () -> ambassador.getFederateHandle_S(name));
+      same(6, ambassador.getFederateHandle_S(name));
+      same(6, ambassador.getFederateHandle_S(name));
+      same("null", "" + ambassador.getTimeFactory());
+      same("", ambassador.getTimeFactory());
+      fails(NotConnected.class, () -> ambassador.getTimeFactory());
+      same(4, Script.calls("getFederateHandle_S"));
+      same(true, name == Script.lastBody("getFederateHandle_S"));
+      same(7, Script.totalCalls());
+      same("getTimeFactory", Script.calledMethod(4));
+      Script.scriptAll(true);
+      same(0.0, ambassador.getUpdateRateValue_S(name));
+      Script.reset();
+      same(false, Script.isOn);
+      same(0, Script.totalCalls());
+      fails(NotConnected.class, () -> ambassador.getFederateHandle_S(name));
    }
 
    private void federations() throws Exception {
