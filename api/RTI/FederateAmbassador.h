@@ -29,12 +29,12 @@ namespace rti1516e {
 ///
 /// What a callback throws goes back to the RTI as the Java exception FederateInternalError. Its
 /// text is what() of an Exception or a std::exception, the text of a thrown std::string, and
-/// "Unknown C++ exception" for anything else; the latter passes uncaught into the Java VM if the
-/// environment variable TARN1516_DONTCATCHALL was set when the ambassador was made.
+/// "Unknown C++ exception" for anything else. The latter passes uncaught into the Java VM if the
+/// environment variable TARN1516_DONTCATCHALL was set when the process made its last ambassador.
 ///
 /// The operations have no exception list, so that a federate may override them with or without the
-/// list (FederateInternalError). An override with a list keeps to it: what is not in it ends the
-/// process.
+/// list (FederateInternalError). Up to C++14 an override with a list keeps to it: what is not in
+/// it ends the process.
 class RTI_EXPORT FederateAmbassador {
 protected:
    FederateAmbassador();
