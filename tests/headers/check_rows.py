@@ -18,7 +18,8 @@ PUBLIC_NAMES = {"getTransportationTypeHandle": "getTransportationType",
 
 # What the interface asks for in place of the bridge's result.
 OUT_PARAMETERS = {
-    "attributeOwnershipDivestitureIfWanted": ("void", ["AttributeHandleSet& theDivestedAttributes"]),
+    "attributeOwnershipDivestitureIfWanted":
+        ("void", ["AttributeHandleSet& theDivestedAttributes"]),
     "queryGALT": ("bool", ["LogicalTime& theTime"]),
     "queryLITS": ("bool", ["LogicalTime& theTime"]),
     "queryLogicalTime": ("void", ["LogicalTime& theTime"]),
