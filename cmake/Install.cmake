@@ -1,0 +1,88 @@
+# What is installed. The result is a home that works from wherever it is moved to:
+#
+#    versioninfo.txt            marks it as a home
+#    bin/tarn1516e-check        tells why a federate does not start
+#    include/                   the public headers
+#    lib/<toolchain>/           the libraries
+#    lib/cmake/, lib/pkgconfig/ what builds against them ask for
+#    share/doc/tarn1516e/       the documents
+#    share/tarn1516e/examples/  complete federates
+#    jre                        on request, a link to a Java runtime
+#
+# The stand-in's jar is a component that only an install of its own brings, and lies where the
+# library does not look: cmake --install <build> --component standin.
+
+include(CMakePackageConfigHelpers)
+
+option(TARN_INSTALL_JRE_LINK "Install jre as a link to a Java runtime" OFF)
+set(TARN_JRE_LINK ${JDK_HOME} CACHE STRING "Where that link leads")
+
+set(LIBRARY_DIR lib/${TARN_TOOLCHAIN})
+set(PACKAGE_DIR lib/cmake/tarn1516e)
+
+# ---- Run time
+
+install(TARGETS rti1516e fedtime1516e EXPORT tarn1516e
+   LIBRARY DESTINATION ${LIBRARY_DIR} COMPONENT runtime NAMELINK_COMPONENT development)
+install(FILES ${PROJECT_BINARY_DIR}/versioninfo.txt DESTINATION . COMPONENT runtime)
+install(TARGETS tarn1516e-check EXPORT tarn1516e RUNTIME DESTINATION bin COMPONENT runtime)
+if(TARN_INSTALL_JRE_LINK)
+   file(CREATE_LINK ${TARN_JRE_LINK} ${PROJECT_BINARY_DIR}/install/jre SYMBOLIC)
+   install(FILES ${PROJECT_BINARY_DIR}/install/jre DESTINATION . COMPONENT runtime)
+endif()
+install(FILES ${STAND_IN_JAR} DESTINATION share/tarn1516e/standin
+   COMPONENT standin EXCLUDE_FROM_ALL)
+
+# ---- Building federates
+
+install(DIRECTORY api/RTI api/tarn1516e DESTINATION include COMPONENT development
+   FILES_MATCHING PATTERN *.h)
+install(EXPORT tarn1516e NAMESPACE tarn1516e:: FILE tarn1516eTargets.cmake
+   DESTINATION ${PACKAGE_DIR} COMPONENT development)
+configure_package_config_file(cmake/tarn1516eConfig.cmake.in install/tarn1516eConfig.cmake
+   INSTALL_DESTINATION ${PACKAGE_DIR} NO_SET_AND_CHECK_MACRO)
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/install/tarn1516eConfigVersion.cmake
+   COMPATIBILITY SameMajorVersion)
+install(FILES
+   ${PROJECT_BINARY_DIR}/install/tarn1516eConfig.cmake
+   ${PROJECT_BINARY_DIR}/install/tarn1516eConfigVersion.cmake
+   DESTINATION ${PACKAGE_DIR} COMPONENT development)
+configure_file(cmake/tarn1516e.pc.in install/tarn1516e.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/install/tarn1516e.pc
+   DESTINATION lib/pkgconfig COMPONENT development)
+
+# ---- Reading
+
+install(FILES README.md DESTINATION share/doc/tarn1516e COMPONENT documents)
+install(DIRECTORY docs DESTINATION share/doc/tarn1516e COMPONENT documents
+   FILES_MATCHING PATTERN *.md PATTERN *.svg)
+install(DIRECTORY examples/ DESTINATION share/tarn1516e/examples COMPONENT documents)
+
+# ---- The Debian package, of the same rules
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME tarn1516e)
+set(CPACK_PACKAGE_CONTACT "The librti1516e developers <librti1516e@example.org>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "C++ interface of an IEEE 1516.1-2010 (HLA) infrastructure")
+set(CPACK_PACKAGE_DESCRIPTION "A federate links librti1516e, which forwards its services to the \
+Java classes of the run-time infrastructure and brings back their callbacks. This package has the \
+libraries, headers, documents, examples and tarn1516e-check; the Java classes are a product of \
+their own.")
+# Everything lies in one home: the library looks for the rest of it two levels above itself.
+set(CPACK_PACKAGING_INSTALL_PREFIX /opt/tarn1516e)
+set(CPACK_COMPONENTS_ALL runtime development documents)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENTS_GROUPING ALL_COMPONENTS_IN_ONE)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${STAGED_HOME}/${LIBRARY_DIR})
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS default-jre-headless)
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "g++, cmake, pkg-config")
+if(CMAKE_SYSTEM_PROCESSOR MATCHES "aarch64|arm64")
+   set(CPACK_DEBIAN_PACKAGE_ARCHITECTURE arm64)
+elseif(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
+   set(CPACK_DEBIAN_PACKAGE_ARCHITECTURE amd64)
+endif()
+include(CPack)
