@@ -425,8 +425,8 @@ public:
    // ---- Time management
 
    // Times and intervals must be of the federation's kind; the RTI takes the bytes of another kind
-   // for its own. The queries assign to the caller's object, which ends the process if the object is
-   // of another kind: no list here allows what its assignment then throws. An answer that comes
+   // for its own. The queries assign to the caller's object, which ends the process if the object
+   // is of another kind: no list here allows what its assignment then throws. An answer that comes
    // before any join can't be read for lack of a time factory and is an RTIinternalError.
 
    /// Asks to send messages with time stamps, none earlier than the federate's time and the
