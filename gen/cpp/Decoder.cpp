@@ -37,7 +37,12 @@ void readBytes(ByteWrapper& buffer, VariableLengthData& data)
 {
    unsigned long const size = static_cast<unsigned long>(buffer.getInt());
    if (useCopies) {
-      data.setData(buffer.getPtr(), size);
+      try {
+         data.setData(buffer.getPtr(), size);
+      } catch (std::bad_alloc const&) {
+         new (&data) VariableLengthData; // a failed setData leaves nothing that can be destroyed
+         throw;
+      }
    } else {
       data.setDataPointer(buffer.getPtr(), size);
    }
