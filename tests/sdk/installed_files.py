@@ -1,0 +1,73 @@
+"""Compares what is installed, component by component, with installed-files.txt."""
+
+import os
+from pathlib import Path
+
+import sdk
+
+
+def files_below(to, prefix):
+    """Paths as the list has them: links with where they lead."""
+    names = []
+    for folder, folders, files in os.walk(prefix):
+        links = [name for name in folders if (Path(folder) / name).is_symlink()]
+        for name in files + links:
+            path = Path(folder) / name
+            text = str(path.relative_to(prefix))
+            if path.is_symlink():
+                text += " -> " + os.readlink(path)
+            names.append(text)
+    config = f"Targets-{build_type(to)}.cmake"
+    return {
+        name.replace(to.toolchain, "<toolchain>").replace(config, "Targets-<type>.cmake")
+        for name in names
+    }
+
+
+def build_type(to):
+    for line in (to.build / "CMakeCache.txt").read_text().splitlines():
+        if line.startswith("CMAKE_BUILD_TYPE:"):
+            return line.split("=")[1].lower() or "noconfig"
+
+
+def expected_files():
+    """Component to paths."""
+    components, names = {}, None
+    for line in (Path(__file__).parent / "installed-files.txt").read_text().splitlines():
+        if line.startswith("["):
+            names = components.setdefault(line.strip("[]"), set())
+        elif line and not line.startswith("#"):
+            names.add(line)
+    return components
+
+
+def main():
+    to = sdk.settings()
+    differences = sdk.Differences()
+    expected = expected_files()
+    with sdk.Scratch() as scratch:
+        for component, names in expected.items():
+            prefix = scratch / component
+            sdk.install(to, prefix, "--component", component)
+            differences.same_lines(component, names, files_below(to, prefix))
+        sdk.install(to, scratch / "all")
+        usual = set().union(*(names for component, names in expected.items()
+                              if component != "standin"))
+        differences.same_lines("without a component", usual, files_below(to, scratch / "all"))
+        jre_link(to, scratch, differences)
+    differences.finish()
+
+
+def jre_link(to, scratch, differences):
+    """The link to a Java runtime is there when it is asked for."""
+    build = scratch / "linked"
+    sdk.run(to.cmake, "-S", to.source, "-B", build, "-G", "Ninja",
+            f"-DCMAKE_CXX_COMPILER={to.compiler}", "-DTARN_TESTS=OFF", "-DTARN_EXAMPLES=OFF",
+            "-DTARN_INSTALL_JRE_LINK=ON", "-DTARN_JRE_LINK=/somewhere/java")
+    script = (build / "cmake_install.cmake").read_text()
+    differences.check("jre is part of the run time", '/install/jre"' in script)
+    differences.check("and a link", os.readlink(build / "install/jre") == "/somewhere/java")
+
+
+if __name__ == "__main__":
+    main()
