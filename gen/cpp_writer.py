@@ -154,7 +154,8 @@ def _wrapper(field):
         return f"CppWrapper<int> {wrapped}(env, makeHandle(&_helper));"
     if field.code == "CM":
         return f"CppWrapper<int> {wrapped}(env, 2 - ({field.name} == HLA_EVOKED));"
-    return f"CppWrapper<{_short(TYPES[field.code].parameter)}> {wrapped}(env, {field.name});"
+    head = f"CppWrapper<{_short(TYPES[field.code].parameter)}> {wrapped}("
+    return _wrap(head, [f"env, {field.name}"], ");", 3).strip()
 
 
 def _call(service):
@@ -170,6 +171,8 @@ def _call(service):
     line = f"   {jni_type} const answer = {call};"
     if len(line) > WIDTH:
         line = f"   {jni_type} const answer =\n         {call};"
+    if len(line.splitlines()[-1]) > WIDTH:
+        line = line.replace(arguments, f"\n               {arguments}")
     return line.strip()
 
 

@@ -421,7 +421,8 @@ void RTIambassadorC::createFederationExecution(std::wstring const& federationExe
    MyEnv env;
    CppWrapper<std::wstring const&> wrappedFederationExecutionName(env, federationExecutionName);
    CppWrapper<std::wstring const&> wrappedFomModule(env, fomModule);
-   CppWrapper<std::wstring const&> wrappedLogicalTimeImplementationName(env, logicalTimeImplementationName);
+   CppWrapper<std::wstring const&> wrappedLogicalTimeImplementationName(
+         env, logicalTimeImplementationName);
    jbyteArray const body = encodeBody(env, wrappedFederationExecutionName, wrappedFomModule,
          wrappedLogicalTimeImplementationName);
    env->CallVoidMethod(_rtiObject, _idCreateFederationExecution_S_URL_S, body);
@@ -438,7 +439,8 @@ void RTIambassadorC::createFederationExecution(std::wstring const& federationExe
    MyEnv env;
    CppWrapper<std::wstring const&> wrappedFederationExecutionName(env, federationExecutionName);
    CppWrapper<std::vector<std::wstring> const&> wrappedFomModules(env, fomModules);
-   CppWrapper<std::wstring const&> wrappedLogicalTimeImplementationName(env, logicalTimeImplementationName);
+   CppWrapper<std::wstring const&> wrappedLogicalTimeImplementationName(
+         env, logicalTimeImplementationName);
    jbyteArray const body = encodeBody(env, wrappedFederationExecutionName, wrappedFomModules,
          wrappedLogicalTimeImplementationName);
    env->CallVoidMethod(_rtiObject, _idCreateFederationExecution_S_URLX_S, body);
@@ -456,7 +458,8 @@ void RTIambassadorC::createFederationExecution(std::wstring const& federationExe
    CppWrapper<std::wstring const&> wrappedFederationExecutionName(env, federationExecutionName);
    CppWrapper<std::vector<std::wstring> const&> wrappedFomModules(env, fomModules);
    CppWrapper<std::wstring const&> wrappedMimModule(env, mimModule);
-   CppWrapper<std::wstring const&> wrappedLogicalTimeImplementationName(env, logicalTimeImplementationName);
+   CppWrapper<std::wstring const&> wrappedLogicalTimeImplementationName(
+         env, logicalTimeImplementationName);
    jbyteArray const body = encodeBody(env, wrappedFederationExecutionName, wrappedFomModules,
          wrappedMimModule, wrappedLogicalTimeImplementationName);
    env->CallVoidMethod(_rtiObject, _idCreateFederationExecution_S_URLX_URL_S, body);
@@ -495,7 +498,8 @@ FederateHandle RTIambassadorC::joinFederationExecution(std::wstring const& feder
    CppWrapper<std::wstring const&> wrappedFederateName(env, federateName);
    CppWrapper<std::wstring const&> wrappedFederateType(env, federateType);
    CppWrapper<std::wstring const&> wrappedFederationExecutionName(env, federationExecutionName);
-   CppWrapper<std::vector<std::wstring> const&> wrappedAdditionalFomModules(env, additionalFomModules);
+   CppWrapper<std::vector<std::wstring> const&> wrappedAdditionalFomModules(
+         env, additionalFomModules);
    jbyteArray const body = encodeBody(env, wrappedFederateName, wrappedFederateType,
          wrappedFederationExecutionName, wrappedAdditionalFomModules);
    jint const answer = env->CallIntMethod(_rtiObject, _idJoinFederationExecution_S_S_S_URLX, body);
@@ -516,7 +520,8 @@ FederateHandle RTIambassadorC::joinFederationExecution(std::wstring const& feder
    MyEnv env;
    CppWrapper<std::wstring const&> wrappedFederateType(env, federateType);
    CppWrapper<std::wstring const&> wrappedFederationExecutionName(env, federationExecutionName);
-   CppWrapper<std::vector<std::wstring> const&> wrappedAdditionalFomModules(env, additionalFomModules);
+   CppWrapper<std::vector<std::wstring> const&> wrappedAdditionalFomModules(
+         env, additionalFomModules);
    jbyteArray const body = encodeBody(env, wrappedFederateType, wrappedFederationExecutionName,
          wrappedAdditionalFomModules);
    jint const answer = env->CallIntMethod(_rtiObject, _idJoinFederationExecution_S_S_URLX, body);
@@ -920,7 +925,8 @@ MessageRetractionHandle RTIambassadorC::updateAttributeValues(ObjectInstanceHand
    jbyteArray const body = encodeBody(env, wrappedObject, wrappedAttributeValues,
          wrappedUserSuppliedTag, wrappedTime);
    jbyteArray const answer =
-         static_cast<jbyteArray>(env->CallObjectMethod(_rtiObject, _idUpdateAttributeValues_OIH_AHVM_BX_LT, body));
+         static_cast<jbyteArray>(env->CallObjectMethod(
+               _rtiObject, _idUpdateAttributeValues_OIH_AHVM_BX_LT, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<InvalidLogicalTime, AttributeNotOwned, AttributeNotDefined,
          ObjectInstanceNotKnown, CommonTail>>(env);
@@ -957,7 +963,8 @@ MessageRetractionHandle RTIambassadorC::sendInteraction(InteractionClassHandle t
    jbyteArray const body = encodeBody(env, wrappedInteraction, wrappedParameterValues,
          wrappedUserSuppliedTag, wrappedTime);
    jbyteArray const answer =
-         static_cast<jbyteArray>(env->CallObjectMethod(_rtiObject, _idSendInteraction_ICH_PHVM_BX_LT, body));
+         static_cast<jbyteArray>(env->CallObjectMethod(
+               _rtiObject, _idSendInteraction_ICH_PHVM_BX_LT, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<InvalidLogicalTime, InteractionClassNotPublished,
          InteractionParameterNotDefined, InteractionClassNotDefined, CommonTail>>(env);
@@ -987,7 +994,8 @@ MessageRetractionHandle RTIambassadorC::deleteObjectInstance(ObjectInstanceHandl
    CppWrapper<LogicalTime const&> wrappedTime(env, theTime);
    jbyteArray const body = encodeBody(env, wrappedObject, wrappedUserSuppliedTag, wrappedTime);
    jbyteArray const answer =
-         static_cast<jbyteArray>(env->CallObjectMethod(_rtiObject, _idDeleteObjectInstance_OIH_BX_LT, body));
+         static_cast<jbyteArray>(env->CallObjectMethod(
+               _rtiObject, _idDeleteObjectInstance_OIH_BX_LT, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<InvalidLogicalTime, DeletePrivilegeNotHeld, ObjectInstanceNotKnown,
          CommonTail>>(env);
@@ -1192,7 +1200,8 @@ std::unique_ptr<AttributeHandleSet> RTIambassadorC::attributeOwnershipDivestitur
    CppWrapper<AttributeHandleSet const&> wrappedAttributes(env, theAttributes);
    jbyteArray const body = encodeBody(env, wrappedObject, wrappedAttributes);
    jintArray const answer =
-         static_cast<jintArray>(env->CallObjectMethod(_rtiObject, _idAttributeOwnershipDivestitureIfWanted_OIH_AHS, body));
+         static_cast<jintArray>(env->CallObjectMethod(
+               _rtiObject, _idAttributeOwnershipDivestitureIfWanted_OIH_AHS, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<AttributeNotOwned, AttributeNotDefined, ObjectInstanceNotKnown,
          CommonTail>>(env);
@@ -1505,7 +1514,8 @@ ObjectInstanceHandle RTIambassadorC::registerObjectInstanceWithRegions(ObjectCla
    ProtectFPU protectFPU;
    MyEnv env;
    CppWrapper<ObjectClassHandle> wrappedClass(env, theClass);
-   CppWrapper<AttributeHandleSetRegionHandleSetPairVector const&> wrappedAttributesAndRegions(env, theAttributesAndRegions);
+   CppWrapper<AttributeHandleSetRegionHandleSetPairVector const&> wrappedAttributesAndRegions(
+         env, theAttributesAndRegions);
    jbyteArray const body = encodeBody(env, wrappedClass, wrappedAttributesAndRegions);
    jint const answer =
          env->CallIntMethod(_rtiObject, _idRegisterObjectInstanceWithRegions_OCH_ASRSPL, body);
@@ -1523,7 +1533,8 @@ ObjectInstanceHandle RTIambassadorC::registerObjectInstanceWithRegions(ObjectCla
    ProtectFPU protectFPU;
    MyEnv env;
    CppWrapper<ObjectClassHandle> wrappedClass(env, theClass);
-   CppWrapper<AttributeHandleSetRegionHandleSetPairVector const&> wrappedAttributesAndRegions(env, theAttributesAndRegions);
+   CppWrapper<AttributeHandleSetRegionHandleSetPairVector const&> wrappedAttributesAndRegions(
+         env, theAttributesAndRegions);
    CppWrapper<std::wstring const&> wrappedName(env, theName);
    jbyteArray const body = encodeBody(env, wrappedClass, wrappedAttributesAndRegions, wrappedName);
    jint const answer =
@@ -1541,7 +1552,8 @@ void RTIambassadorC::associateRegionsForUpdates(ObjectInstanceHandle theObject,
    ProtectFPU protectFPU;
    MyEnv env;
    CppWrapper<ObjectInstanceHandle> wrappedObject(env, theObject);
-   CppWrapper<AttributeHandleSetRegionHandleSetPairVector const&> wrappedAttributesAndRegions(env, theAttributesAndRegions);
+   CppWrapper<AttributeHandleSetRegionHandleSetPairVector const&> wrappedAttributesAndRegions(
+         env, theAttributesAndRegions);
    jbyteArray const body = encodeBody(env, wrappedObject, wrappedAttributesAndRegions);
    env->CallVoidMethod(_rtiObject, _idAssociateRegionsForUpdates_OIH_ASRSPL, body);
    env->DeleteLocalRef(body);
@@ -1555,7 +1567,8 @@ void RTIambassadorC::unassociateRegionsForUpdates(ObjectInstanceHandle theObject
    ProtectFPU protectFPU;
    MyEnv env;
    CppWrapper<ObjectInstanceHandle> wrappedObject(env, theObject);
-   CppWrapper<AttributeHandleSetRegionHandleSetPairVector const&> wrappedAttributesAndRegions(env, theAttributesAndRegions);
+   CppWrapper<AttributeHandleSetRegionHandleSetPairVector const&> wrappedAttributesAndRegions(
+         env, theAttributesAndRegions);
    jbyteArray const body = encodeBody(env, wrappedObject, wrappedAttributesAndRegions);
    env->CallVoidMethod(_rtiObject, _idUnassociateRegionsForUpdates_OIH_ASRSPL, body);
    env->DeleteLocalRef(body);
@@ -1570,7 +1583,8 @@ void RTIambassadorC::subscribeObjectClassAttributesWithRegions(ObjectClassHandle
    ProtectFPU protectFPU;
    MyEnv env;
    CppWrapper<ObjectClassHandle> wrappedClass(env, theClass);
-   CppWrapper<AttributeHandleSetRegionHandleSetPairVector const&> wrappedAttributesAndRegions(env, theAttributesAndRegions);
+   CppWrapper<AttributeHandleSetRegionHandleSetPairVector const&> wrappedAttributesAndRegions(
+         env, theAttributesAndRegions);
    CppWrapper<bool> wrappedActive(env, active);
    CppWrapper<std::wstring const&> wrappedUpdateRateDesignator(env, updateRateDesignator);
    jbyteArray const body = encodeBody(env, wrappedClass, wrappedAttributesAndRegions, wrappedActive,
@@ -1587,7 +1601,8 @@ void RTIambassadorC::unsubscribeObjectClassAttributesWithRegions(ObjectClassHand
    ProtectFPU protectFPU;
    MyEnv env;
    CppWrapper<ObjectClassHandle> wrappedClass(env, theClass);
-   CppWrapper<AttributeHandleSetRegionHandleSetPairVector const&> wrappedAttributesAndRegions(env, theAttributesAndRegions);
+   CppWrapper<AttributeHandleSetRegionHandleSetPairVector const&> wrappedAttributesAndRegions(
+         env, theAttributesAndRegions);
    jbyteArray const body = encodeBody(env, wrappedClass, wrappedAttributesAndRegions);
    env->CallVoidMethod(_rtiObject, _idUnsubscribeObjectClassAttributesWithRegions_OCH_ASRSPL, body);
    env->DeleteLocalRef(body);
@@ -1659,7 +1674,8 @@ MessageRetractionHandle RTIambassadorC::sendInteractionWithRegions(
    jbyteArray const body = encodeBody(env, wrappedInteraction, wrappedParameterValues,
          wrappedRegions, wrappedUserSuppliedTag, wrappedTime);
    jbyteArray const answer =
-         static_cast<jbyteArray>(env->CallObjectMethod(_rtiObject, _idSendInteractionWithRegions_ICH_PHVM_RHS_BX_LT, body));
+         static_cast<jbyteArray>(env->CallObjectMethod(
+               _rtiObject, _idSendInteractionWithRegions_ICH_PHVM_RHS_BX_LT, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<InvalidLogicalTime, InvalidRegionContext, RegionNotCreatedByThisFederate,
          InvalidRegion, InteractionClassNotPublished, InteractionParameterNotDefined,
@@ -1674,7 +1690,8 @@ void RTIambassadorC::requestAttributeValueUpdateWithRegions(ObjectClassHandle th
    ProtectFPU protectFPU;
    MyEnv env;
    CppWrapper<ObjectClassHandle> wrappedClass(env, theClass);
-   CppWrapper<AttributeHandleSetRegionHandleSetPairVector const&> wrappedAttributesAndRegions(env, theAttributesAndRegions);
+   CppWrapper<AttributeHandleSetRegionHandleSetPairVector const&> wrappedAttributesAndRegions(
+         env, theAttributesAndRegions);
    CppWrapper<VariableLengthData const&> wrappedUserSuppliedTag(env, theUserSuppliedTag);
    jbyteArray const body = encodeBody(env, wrappedClass, wrappedAttributesAndRegions,
          wrappedUserSuppliedTag);
@@ -1787,7 +1804,8 @@ std::wstring RTIambassadorC::getObjectInstanceName(ObjectInstanceHandle theObjec
    CppWrapper<ObjectInstanceHandle> wrappedObject(env, theObject);
    jbyteArray const body = encodeBody(env, wrappedObject);
    jstring const answer =
-         static_cast<jstring>(env->CallObjectMethod(_rtiObject, _idGetObjectInstanceName_OIH, body));
+         static_cast<jstring>(env->CallObjectMethod(
+               _rtiObject, _idGetObjectInstanceName_OIH, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<ObjectInstanceNotKnown, MemberTail>>(env);
    return returnString(env, answer);
@@ -1869,7 +1887,8 @@ std::wstring RTIambassadorC::getInteractionClassName(InteractionClassHandle theI
    CppWrapper<InteractionClassHandle> wrappedInteraction(env, theInteraction);
    jbyteArray const body = encodeBody(env, wrappedInteraction);
    jstring const answer =
-         static_cast<jstring>(env->CallObjectMethod(_rtiObject, _idGetInteractionClassName_ICH, body));
+         static_cast<jstring>(env->CallObjectMethod(
+               _rtiObject, _idGetInteractionClassName_ICH, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<InvalidInteractionClassHandle, MemberTail>>(env);
    return returnString(env, answer);
@@ -1949,7 +1968,8 @@ std::wstring RTIambassadorC::getTransportationTypeName(TransportationType theTyp
    CppWrapper<TransportationType> wrappedType(env, theType);
    jbyteArray const body = encodeBody(env, wrappedType);
    jstring const answer =
-         static_cast<jstring>(env->CallObjectMethod(_rtiObject, _idGetTransportationTypeName_TTH, body));
+         static_cast<jstring>(env->CallObjectMethod(
+               _rtiObject, _idGetTransportationTypeName_TTH, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<InvalidTransportationType, MemberTail>>(env);
    return returnString(env, answer);
@@ -1964,7 +1984,8 @@ DimensionHandleSet RTIambassadorC::getAvailableDimensionsForClassAttribute(
    CppWrapper<AttributeHandle> wrappedAttribute(env, theAttribute);
    jbyteArray const body = encodeBody(env, wrappedClass, wrappedAttribute);
    jintArray const answer =
-         static_cast<jintArray>(env->CallObjectMethod(_rtiObject, _idGetAvailableDimensionsForClassAttribute_OCH_AH, body));
+         static_cast<jintArray>(env->CallObjectMethod(
+               _rtiObject, _idGetAvailableDimensionsForClassAttribute_OCH_AH, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<AttributeNotDefined, InvalidAttributeHandle, InvalidObjectClassHandle,
          MemberTail>>(env);
@@ -1979,7 +2000,8 @@ DimensionHandleSet RTIambassadorC::getAvailableDimensionsForInteractionClass(
    CppWrapper<InteractionClassHandle> wrappedInteraction(env, theInteraction);
    jbyteArray const body = encodeBody(env, wrappedInteraction);
    jintArray const answer =
-         static_cast<jintArray>(env->CallObjectMethod(_rtiObject, _idGetAvailableDimensionsForInteractionClass_ICH, body));
+         static_cast<jintArray>(env->CallObjectMethod(
+               _rtiObject, _idGetAvailableDimensionsForInteractionClass_ICH, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<InvalidInteractionClassHandle, MemberTail>>(env);
    return returnDimensionHandleSet(env, answer);
@@ -2029,7 +2051,8 @@ DimensionHandleSet RTIambassadorC::getDimensionHandleSet(RegionHandle theRegion)
    CppWrapper<RegionHandle> wrappedRegion(env, theRegion);
    jbyteArray const body = encodeBody(env, wrappedRegion);
    jintArray const answer =
-         static_cast<jintArray>(env->CallObjectMethod(_rtiObject, _idGetDimensionHandleSet_RH, body));
+         static_cast<jintArray>(env->CallObjectMethod(
+               _rtiObject, _idGetDimensionHandleSet_RH, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<InvalidRegion, CommonTail>>(env);
    return returnDimensionHandleSet(env, answer);
