@@ -1,0 +1,258 @@
+"""tarn1516e-check in many homes: what it says where a federate starts, and how it tells apart why
+one does not start."""
+
+import os
+import re
+import shutil
+import zipfile
+from pathlib import Path
+
+import sdk
+
+CORE = "skerry/tarn1516e/RtiFactoryImpl.class"
+ADAPTER = "skerry/tarn1516e/RTIambassadorC2007.class"
+NATIVES = "skerry/tarn1516e/FederateAmbassadorC2007.class"
+STEPS = ("library", "home", "options", "VM", "class path", "jar", "classes", "native methods",
+         "ambassador", "first connect")
+
+
+class Place:
+    """A home and a current directory for one case."""
+
+    def __init__(self, to, master, folder):
+        self.to = to
+        self.home = folder / "home"
+        self.work = folder / "work"
+        self.work.mkdir(parents=True)
+        shutil.copytree(master, self.home, symlinks=True)
+        self.jar = self.home / "lib/tarn1516e.jar"
+        self.vm = self.home / "jre/lib/server/libjvm.so"
+
+    def names(self):
+        return {"home": self.home, "work": self.work, "jar": self.jar, "vm": self.vm,
+                "server": (self.to.jdk / "lib/server").resolve()}
+
+    # What can be done to it.
+
+    def without(self, *names):
+        for name in names:
+            os.remove(self.home / name)
+
+    def not_a_home(self):
+        self.jar.rename(self.work / "classes.jar")
+        self.without("jre", "versioninfo.txt", "include/RTI/RTI1516.h")
+
+    def with_vm(self, content):
+        """A file in place of the home's VM library, the other path's as well."""
+        self.without("jre")
+        for path in (self.vm, self.work / "libjvm.so"):
+            path.parent.mkdir(parents=True, exist_ok=True)
+            path.write_bytes(content)
+
+    def of_another_machine(self):
+        library = self.home / "lib" / self.to.toolchain / "libfedtime1516e.so"
+        content = bytearray(library.read_bytes())
+        content[18] = 183 if content[18] != 183 else 62
+        self.with_vm(bytes(content))
+
+    def rewrite_jar(self, change):
+        """Each class goes through `change`; what comes out as None is left out."""
+        with zipfile.ZipFile(self.to.jar) as old, zipfile.ZipFile(self.jar, "w") as new:
+            for name in old.namelist():
+                content = change(name, old.read(name))
+                if content is not None:
+                    new.writestr(name, content)
+
+    def jar_of_a_later_version(self):
+        # Bytes 6 and 7 of a class: its format's version, 44 more than Java's.
+        self.rewrite_jar(lambda name, content:
+                         content[:6] + bytes((1, 44)) + content[8:] if name == CORE else content)
+
+    def jar_without(self, *classes):
+        self.rewrite_jar(lambda name, content: None if name in classes else content)
+
+    def jar_with(self, class_file, source):
+        """Puts a class of other source in place of the jar's."""
+        path = self.work / "source" / Path(class_file).with_suffix(".java").name
+        path.parent.mkdir()
+        path.write_text(source)
+        sdk.run(self.to.jdk / "bin/javac", "-cp", self.to.jar, "-d", self.work / "source", path)
+        content = (self.work / "source" / class_file).read_bytes()
+        self.rewrite_jar(lambda name, old: content if name == class_file else old)
+
+    def jar_that_does_not_connect(self):
+        source = (self.to.source / "standin/generated" / ADAPTER).with_suffix(".java").read_text()
+        changed, count = re.subn(
+            r"( connect_FA_CM_S\(byte\[\] \w+\) throws RTIexception \{)",
+            r'\1 if (true) throw new IllegalStateException("no RTI answers");', source)
+        assert count == 1, "the stand-in's connect looks otherwise than expected"
+        self.jar_with(ADAPTER, changed)
+
+
+def case(name, prepare=None, env=None, arguments=(), step=None, finding="", advice="", also=()):
+    return dict(locals())
+
+
+SPARE_ADAPTER = "package skerry.tarn1516e; public class RTIambassadorC2007 {}"
+SPARE_NATIVES = "package skerry.tarn1516e; public class FederateAmbassadorC2007 {}"
+
+# A case without a step is one where all is well. `finding` and `advice` are the beginnings of what
+# is to be said; `also` stands somewhere in the output.
+CASES = (
+    case("an installation", also=("(the library lies in it)", "(Java ", ", below the home)",
+                                  "{home}/lib/tarn1516e.jar\n", "options         none given")),
+    case("everything from outside", Place.not_a_home,
+         {"LD_LIBRARY_PATH": "{server}", "CLASSPATH": "{work}/classes.jar"},
+         also=("home            none; ", "jar             {work}/classes.jar\n")),
+    case("options of both kinds",
+         lambda p: (p.work / "tarn.vmoptions").write_text("# none\n-Xmx100m\n"),
+         {"TARN1516_OPTION3": "-Da=b"},
+         also=("options         -Da=b (TARN1516_OPTION3), -Xmx100m (tarn.vmoptions)",)),
+    case("a class path that partly exists", None, {"CLASSPATH": "/no/such.jar:{jar}"},
+         also=("(does not exist: /no/such.jar)",)),
+    case("a VM on the library path", lambda p: p.without("jre"), {"LD_LIBRARY_PATH": "{server}"},
+         also=(", on the library path)",)),
+    case("all that was written", arguments=("--verbose",),
+         also=("   > Locating core classes", "   | tarn1516e stand-in")),
+
+    # No VM on any path.
+    case("no VM", lambda p: p.without("jre"), step="VM",
+         finding="no libjvm.so on the library path, and no {vm}",
+         advice="link a Java runtime there (ln -sfn <runtime> {home}/jre)"),
+    case("no VM and no home", Place.not_a_home, step="VM",
+         finding="no libjvm.so on the library path, and no home to look in",
+         advice="put the folder of libjvm.so on LD_LIBRARY_PATH, or set TARN1516E_HOME"),
+    # A VM of another architecture.
+    case("a VM for another processor", Place.of_another_machine, step="VM",
+         finding="{vm} is for ", advice="use a Java runtime for "),
+    case("one on the library path", lambda p: (p.of_another_machine(), os.remove(p.vm)),
+         {"LD_LIBRARY_PATH": "{work}"}, step="VM", finding="{work}/libjvm.so is for "),
+    case("a VM that is a text", lambda p: p.with_vm(b"no VM"), step="VM",
+         finding="{vm} is no library of this platform", advice="put a whole Java runtime"),
+    # A VM too old for the jar.
+    case("a jar of a later version", Place.jar_of_a_later_version, step="classes",
+         finding="the VM is too old for the jar's skerry.tarn1516e.RtiFactoryImpl",
+         advice="use a Java runtime of version 256 or later."),
+    # No jar.
+    case("no jar", lambda p: p.without("lib/tarn1516e.jar"), step="jar",
+         finding="no tarn1516e.jar at {jar} and none on CLASSPATH", advice="copy the RTI's"),
+    # A wrong jar.
+    case("a jar that is a text", lambda p: p.jar.write_text("no jar"), step="jar",
+         finding="{jar} is no jar", advice="put the RTI's own tarn1516e.jar in its place."),
+    case("a jar of something else", lambda p: p.jar_without(CORE, ADAPTER, NATIVES), step="jar",
+         finding="{jar} has no skerry.tarn1516e.RtiFactoryImpl", advice="put the RTI's own"),
+    case("a jar of another version", lambda p: p.jar_with(ADAPTER, SPARE_ADAPTER), step="classes",
+         finding="Cannot locate ", advice="use the tarn1516e.jar that belongs to this version"),
+    case("natives of another version", lambda p: p.jar_with(NATIVES, SPARE_NATIVES),
+         step="native methods", finding="Failed to register native functions.",
+         advice="use the tarn1516e.jar that belongs to this version"),
+    # A class missing.
+    case("no adapter class", lambda p: p.jar_without(ADAPTER), step="classes",
+         finding="skerry.tarn1516e.RTIambassadorC2007 is missing",
+         advice="replace tarn1516e.jar by a complete one"),
+    case("no class of natives", lambda p: p.jar_without(NATIVES), step="native methods",
+         finding="skerry.tarn1516e.FederateAmbassadorC2007 is missing",
+         advice="replace tarn1516e.jar by a complete one"),
+    # A bad VM option.
+    case("a bad option in a variable", None, {"TARN1516_OPTION2": "-Xmx1kk"}, step="VM",
+         finding="it does not start: ",
+         advice="mend or remove the VM option '-Xmx1kk' in TARN1516_OPTION2", also=("   | ",)),
+    case("a bad option in the file",
+         lambda p: (p.work / "tarn.vmoptions").write_text("-Xms9z\n"), step="VM",
+         finding="it does not start: ",
+         advice="mend or remove the VM option '-Xms9z' in tarn.vmoptions"),
+    # An unreadable option file.
+    case("an option file that is a folder", lambda p: (p.work / "tarn.vmoptions").mkdir(),
+         step="options", finding="{work}/tarn.vmoptions is there and can't be read",
+         advice="make it a file that this user may read"),
+    case("an option file that leads nowhere",
+         lambda p: (p.work / "tarn.vmoptions").symlink_to("nowhere"), step="options",
+         finding="{work}/tarn.vmoptions is there and can't be read"),
+    # CLASSPATH pointing nowhere.
+    case("a class path to nowhere", None, {"CLASSPATH": "/no/such.jar:/no/*"}, step="class path",
+         finding="CLASSPATH leads nowhere: /no/such.jar, /no/*",
+         advice="correct CLASSPATH or unset it"),
+    # A home without its marker.
+    case("a home without its marker", lambda p: p.without("versioninfo.txt"), step="home",
+         finding="{home} has jre, but no versioninfo.txt",
+         advice="put the marker back: touch {home}/versioninfo.txt."),
+    case("TARN1516E_HOME without the marker",
+         lambda p: p.without("versioninfo.txt"), {"TARN1516E_HOME": "{work}"}, step="home",
+         finding="TARN1516E_HOME is '{work}', where there is no versioninfo.txt",
+         advice="set TARN1516E_HOME to the directory of an installation"),
+    # A VM that the process had already.
+    case("a VM before, without the jar", arguments=("--host-vm", "{work}"), step="classes",
+         finding="the VM that was in the process before has no skerry.tarn1516e.RtiFactoryImpl",
+         advice="put tarn1516e.jar on the class path with which the program starts its VM"),
+    case("a VM before, with the jar", arguments=("--host-vm", "{jar}"),
+         also=(", in the process before)", "class path      the one that the VM was started with")),
+    # A Java constructor that throws.
+    case("a constructor that throws", None,
+         {"TARN1516_OPTION1": "-Dtarn.standin.constructor=throw:no license"}, step="ambassador",
+         finding="the Java constructor threw: no license",
+         advice="look into the RTI's own settings and start-up", also=("   | ",)),
+    case("a connection that fails", Place.jar_that_does_not_connect,
+         arguments=("--settings", "anywhere"), step="first connect",
+         finding="RTIinternalError: java.lang.IllegalStateException: no RTI answers",
+         advice="see that the RTI runs"),
+)
+
+USAGE = (
+    (("--help",), 0, "Usage: tarn1516e-check [options]"),
+    (("-h",), 0, "Usage: tarn1516e-check [options]"),
+    (("--version",), 0, "tarn1516e-check {version}\n"),
+    (("--nonsense",), 2, "Try tarn1516e-check --help."),
+    (("nonsense",), 2, "what is 'nonsense'?"),
+    (("--settings",), 2, "Try tarn1516e-check --help."),
+)
+
+
+def expected_lines(one, names):
+    """Beginnings of the lines from the first on."""
+    lines = []
+    for step in STEPS:
+        if step == one["step"]:
+            lines.append(f"{step:15} FAILED: {one['finding'].format(**names)}")
+            lines.append(f"What to do: {one['advice'].format(**names)}")
+            return lines
+        lines.append(f"{step:15} ")
+    return lines + ["All is well: a federate starts here."]
+
+
+def try_case(one, place, differences):
+    names = place.names()
+    if one["prepare"]:
+        one["prepare"](place)
+    env = {name: value.format(**names) for name, value in (one["env"] or {}).items()}
+    arguments = [argument.format(**names) for argument in one["arguments"]]
+    output = sdk.run(place.home / "bin/tarn1516e-check", *arguments, cwd=place.work, env=env,
+                     expect=1 if one["step"] else 0)
+    lines = output.splitlines()
+    for number, beginning in enumerate(expected_lines(one, names)):
+        line = lines[number] if number < len(lines) else "(no more)"
+        differences.check(f"{one['name']}, line {number + 1}", line.startswith(beginning),
+                          f"\n   expected: {beginning}\n   found:    {line}")
+    for text in one["also"]:
+        differences.check(one["name"], text.format(**names) in output,
+                          f"no '{text.format(**names)}' in\n{output}")
+    differences.check(one["name"], ("FAILED" in output) == bool(one["step"]), output)
+
+
+def main():
+    to = sdk.settings()
+    differences = sdk.Differences()
+    with sdk.Scratch() as scratch:
+        home = sdk.install_and_move(to, scratch)
+        shutil.rmtree(home / "share")
+        for number, one in enumerate(CASES):
+            place = Place(to, home, scratch / str(number))
+            try_case(one, place, differences)
+            shutil.rmtree(scratch / str(number))
+        for arguments, status, text in USAGE:
+            output = sdk.run(home / "bin/tarn1516e-check", *arguments, expect=status)
+            differences.check(" ".join(arguments), text.format(version=to.version) in output, output)
+    differences.finish()
+
+
+if __name__ == "__main__":
+    main()
