@@ -3,6 +3,7 @@
 #include "tests/contract/Rows.h"
 #include "tests/support/Script.h"
 #include <RTI/Exception.h>
+#include <RTI/NullFederateAmbassador.h>
 
 #include <condition_variable>
 #include <gtest/gtest.h>
@@ -116,6 +117,35 @@ TEST_F(Callbacks, withoutATimeNeedNoJoin)
       }
    }
    EXPECT_EQ(50, delivered);
+}
+
+namespace {
+
+class TagHolder : public NullFederateAmbassador {
+public:
+   void requestAttributeOwnershipRelease(ObjectInstanceHandle, AttributeHandleSet const&,
+         VariableLengthData const& theUserSuppliedTag) override
+   {
+      hasStorage = theUserSuppliedTag.data() != nullptr;
+      size = theUserSuppliedTag.size();
+   }
+
+   bool hasStorage = false;
+   unsigned long size = 99;
+};
+
+} // namespace
+
+TEST_F(Callbacks, giveAnEmptyTagStorageToo)
+{
+   Federate federate;
+   TagHolder holder;
+   int const handle = takeHandle();
+   federate.rti->connect(holder, HLA_EVOKED);
+   script::fire("requestAttributeOwnershipRelease_OIH_AHS_BX_Native",
+         frame(handle, integer(7) + integer(0) + block("")));
+   EXPECT_TRUE(holder.hasStorage);
+   EXPECT_EQ(0U, holder.size);
 }
 
 TEST_F(Callbacks, turnExceptionsIntoFederateInternalErrors)
