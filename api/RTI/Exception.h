@@ -14,6 +14,7 @@ namespace rti1516e {
 /// one than this.
 class RTI_EXPORT Exception {
 public:
+   /// Holds nothing.
    Exception();
    Exception(Exception const&);
 

@@ -38,6 +38,7 @@ namespace rti1516e {
          return _value == rhs._value;                                                              \
       }                                                                                            \
                                                                                                    \
+      /** The opposite. */                                                                         \
       bool operator!=(A const& rhs) const                                                          \
       {                                                                                            \
          return _value != rhs._value;                                                              \
@@ -134,6 +135,7 @@ public:
    /// Names nothing: number 0, no further bytes.
    MessageRetractionHandle();
 
+   /// Copies the number and the bytes.
    MessageRetractionHandle(MessageRetractionHandle const& rhs);
    ~MessageRetractionHandle();
 

@@ -25,6 +25,7 @@ class RTI_EXPORT LogicalTime {
 public:
 #if __cplusplus >= 201103L
    // Without a word on them the assignment below would make copies deprecated.
+   /// A time that its class gives a value.
    LogicalTime() = default;
    LogicalTime(LogicalTime const&) = default;
 #endif
@@ -33,20 +34,24 @@ public:
 
    /// Sets the first time of the axis.
    virtual void setInitial() = 0;
+   /// Whether it is the first time.
    virtual bool isInitial() const = 0;
 
    /// Sets the last time of the axis.
    virtual void setFinal() = 0;
+   /// Whether it is the last time.
    virtual bool isFinal() const = 0;
 
    /// Copies the value.
    virtual LogicalTime& operator=(LogicalTime const& value) RTI_THROW((InvalidLogicalTime)) = 0;
 
+   /// Moves the time on by the interval, or back by it.
    virtual LogicalTime& operator+=(LogicalTimeInterval const& addend)
          RTI_THROW((IllegalTimeArithmetic, InvalidLogicalTimeInterval)) = 0;
    virtual LogicalTime& operator-=(LogicalTimeInterval const& subtrahend)
          RTI_THROW((IllegalTimeArithmetic, InvalidLogicalTimeInterval)) = 0;
 
+   /// Compares the values; the later time is the greater one.
    virtual bool operator>(LogicalTime const& value) const RTI_THROW((InvalidLogicalTime)) = 0;
    virtual bool operator<(LogicalTime const& value) const RTI_THROW((InvalidLogicalTime)) = 0;
    virtual bool operator==(LogicalTime const& value) const RTI_THROW((InvalidLogicalTime)) = 0;

@@ -22,6 +22,7 @@ class RTI_EXPORT LogicalTimeInterval {
 public:
 #if __cplusplus >= 201103L
    // Without a word on them the assignment below would make copies deprecated.
+   /// An interval that its class gives a value.
    LogicalTimeInterval() = default;
    LogicalTimeInterval(LogicalTimeInterval const&) = default;
 #endif
@@ -30,21 +31,25 @@ public:
 
    /// Sets the empty interval.
    virtual void setZero() = 0;
+   /// Whether it is the empty interval.
    virtual bool isZero() const = 0;
 
    /// Sets the smallest interval above the empty one.
    virtual void setEpsilon() = 0;
+   /// Whether it is the smallest one above that.
    virtual bool isEpsilon() const = 0;
 
    /// Copies the value.
    virtual LogicalTimeInterval& operator=(LogicalTimeInterval const& value)
          RTI_THROW((InvalidLogicalTimeInterval)) = 0;
 
+   /// Adds the value, or subtracts it.
    virtual LogicalTimeInterval& operator+=(LogicalTimeInterval const& addend)
          RTI_THROW((IllegalTimeArithmetic, InvalidLogicalTimeInterval)) = 0;
    virtual LogicalTimeInterval& operator-=(LogicalTimeInterval const& subtrahend)
          RTI_THROW((IllegalTimeArithmetic, InvalidLogicalTimeInterval)) = 0;
 
+   /// Compares the values.
    virtual bool operator>(LogicalTimeInterval const& value) const
          RTI_THROW((InvalidLogicalTimeInterval)) = 0;
    virtual bool operator<(LogicalTimeInterval const& value) const
@@ -85,7 +90,7 @@ public:
 } // namespace rti1516e
 
 /// Writes the interval's toString(). It stands outside the namespace: code inside a namespace with
-/// inserters of its own reaches it as ::operator<<.
+/// inserters of its own reaches it by a name that begins with ::.
 RTI_EXPORT std::wostream& operator<<(
       std::wostream& stream, rti1516e::LogicalTimeInterval const& value);
 

@@ -15,8 +15,10 @@ public:
    /// Both bounds are whatever was in memory: set them before use.
    RangeBounds();
 
+   /// Those bounds.
    RangeBounds(unsigned long lowerBound, unsigned long upperBound);
 
+   /// Reads and sets one bound; the other one stays.
    unsigned long getLowerBound() const;
    unsigned long getUpperBound() const;
    void setLowerBound(unsigned long lowerBound);

@@ -41,6 +41,7 @@ typedef std::vector<FederateHandleSaveStatusPair> FederateHandleSaveStatusPairVe
 /// A federate, and how far it is with a restore.
 class RTI_EXPORT FederateRestoreStatus {
 public:
+   /// Copies the three.
    FederateRestoreStatus(FederateHandle const& preRestoreHandle,
          FederateHandle const& postRestoreHandle, RestoreStatus status);
 
@@ -50,6 +51,7 @@ public:
    /// Its handle after the restore.
    FederateHandle postRestoreHandle;
 
+   /// How far it is.
    RestoreStatus status;
 };
 
@@ -58,9 +60,11 @@ typedef std::vector<FederateRestoreStatus> FederateRestoreStatusVector;
 /// A federation execution as listFederationExecutions reports it.
 class RTI_EXPORT FederationExecutionInformation {
 public:
+   /// Copies both names.
    FederationExecutionInformation(std::wstring const& federationExecutionName,
          std::wstring const& logicalTimeImplementationName);
 
+   /// The execution's name, and the name of its kind of time.
    std::wstring federationExecutionName;
    std::wstring logicalTimeImplementationName;
 };
@@ -71,12 +75,14 @@ typedef std::vector<FederationExecutionInformation> FederationExecutionInformati
 /// constructor that takes a value sets the flag.
 class RTI_EXPORT SupplementalReflectInfo {
 public:
+   /// Holds what is given; the default constructor, nothing.
    SupplementalReflectInfo();
    SupplementalReflectInfo(FederateHandle const& producingFederate);
    SupplementalReflectInfo(RegionHandleSet const& sentRegions);
    SupplementalReflectInfo(
          FederateHandle const& producingFederate, RegionHandleSet const& sentRegions);
 
+   /// Whether the field of that name holds something.
    bool hasProducingFederate;
    bool hasSentRegions;
 
@@ -90,12 +96,14 @@ public:
 /// What may come with an interaction, in the manner of SupplementalReflectInfo.
 class RTI_EXPORT SupplementalReceiveInfo {
 public:
+   /// Holds what is given; the default constructor, nothing.
    SupplementalReceiveInfo();
    SupplementalReceiveInfo(FederateHandle const& producingFederate);
    SupplementalReceiveInfo(RegionHandleSet const& sentRegions);
    SupplementalReceiveInfo(
          FederateHandle const& producingFederate, RegionHandleSet const& sentRegions);
 
+   /// Whether the field of that name holds something.
    bool hasProducingFederate;
    bool hasSentRegions;
 
@@ -109,9 +117,11 @@ public:
 /// What may come with the removal of an object instance.
 class RTI_EXPORT SupplementalRemoveInfo {
 public:
+   /// Holds what is given; the default constructor, nothing.
    SupplementalRemoveInfo();
    SupplementalRemoveInfo(FederateHandle const& producingFederate);
 
+   /// Whether the field of that name holds something.
    bool hasProducingFederate;
 
    /// The federate that deleted the instance; invalid without its flag.

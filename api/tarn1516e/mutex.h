@@ -34,6 +34,7 @@ private:
 template <class T>
 class lock_guard {
 public:
+   /// Waits for the lock and holds it.
    explicit lock_guard(T& lockable) : _lockable(&lockable)
    {
       _lockable->lock();

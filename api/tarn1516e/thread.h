@@ -59,6 +59,7 @@ public:
    /// No thread: the number 0.
    id() : _number(0) {}
 
+   /// Compares the numbers.
    bool operator==(id const& rhs) const
    {
       return _number == rhs._number;

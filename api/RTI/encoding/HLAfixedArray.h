@@ -28,6 +28,7 @@ public:
    /// That many clones of the prototype, which is not kept.
    HLAfixedArray(DataElement const& prototype, std::size_t length);
 
+   /// Clones of all elements of rhs.
    HLAfixedArray(HLAfixedArray const& rhs);
    virtual ~HLAfixedArray();
 

@@ -25,6 +25,7 @@ public:
    /// A record of no fields.
    HLAfixedRecord();
 
+   /// Clones of all fields of rhs.
    HLAfixedRecord(HLAfixedRecord const& rhs);
    virtual ~HLAfixedRecord();
 

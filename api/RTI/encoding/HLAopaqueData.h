@@ -36,6 +36,7 @@ public:
    HLAopaqueData(Octet** inData, std::size_t bufferSize, std::size_t dataSize)
          RTI_THROW((EncoderException));
 
+   /// Owns a copy of the data.
    HLAopaqueData(HLAopaqueData const& rhs);
    virtual ~HLAopaqueData();
 

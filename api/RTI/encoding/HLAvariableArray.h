@@ -36,6 +36,7 @@ public:
    /// No elements. The array keeps a clone of the prototype.
    explicit HLAvariableArray(DataElement const& prototype);
 
+   /// Clones of the prototype and of all elements of rhs.
    HLAvariableArray(HLAvariableArray const& rhs);
    virtual ~HLAvariableArray();
 

@@ -36,6 +36,7 @@ public:
    /// The current discriminant is a clone of the prototype. No variants.
    explicit HLAvariantRecord(DataElement const& discriminantPrototype);
 
+   /// Clones of the discriminant and of all variants of rhs.
    HLAvariantRecord(HLAvariantRecord const& rhs);
    virtual ~HLAvariantRecord();
 

@@ -29,6 +29,7 @@ public:
    /// Zero.
    HLAfloat64Interval();
 
+   /// The number, or the value of another interval.
    HLAfloat64Interval(double value);
    HLAfloat64Interval(LogicalTimeInterval const& value);
    HLAfloat64Interval(HLAfloat64Interval const& value);
@@ -76,10 +77,12 @@ public:
    /// "HLAfloat64Time", the name of the time that the interval belongs to.
    virtual std::wstring implementationName() const;
 
+   /// The value as a number.
    virtual double getInterval() const;
    virtual void setInterval(double value);
    virtual HLAfloat64Interval& operator=(HLAfloat64Interval const& value);
 
+   /// The value as a number, without a word on it.
    operator double() const;
 
 #if __cplusplus >= 202002L

@@ -33,6 +33,7 @@ public:
    /// The initial time.
    HLAfloat64Time();
 
+   /// The number, or the value of another time.
    HLAfloat64Time(double const& value);
    HLAfloat64Time(LogicalTime const& value);
    HLAfloat64Time(HLAfloat64Time const& value);
@@ -70,10 +71,12 @@ public:
    /// "HLAfloat64Time".
    virtual std::wstring implementationName() const;
 
+   /// The value as a number.
    virtual double getTime() const;
    virtual void setTime(double value);
    virtual HLAfloat64Time& operator=(HLAfloat64Time const& value);
 
+   /// The value as a number, without a word on it.
    operator double() const;
 
 #if __cplusplus >= 202002L

@@ -40,6 +40,7 @@ public:
    /// HLAfloat64TimeName.
    virtual std::wstring getName() const;
 
+   /// A time or an interval of that value. The caller owns it.
    virtual std::auto_ptr<HLAfloat64Time> makeLogicalTime(double value) RTI_THROW((InternalError));
    virtual std::auto_ptr<HLAfloat64Interval> makeLogicalTimeInterval(double value)
          RTI_THROW((InternalError));

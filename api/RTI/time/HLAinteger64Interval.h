@@ -28,6 +28,7 @@ public:
    /// Zero.
    HLAinteger64Interval();
 
+   /// The number, or the value of another interval.
    HLAinteger64Interval(long long value);
    HLAinteger64Interval(LogicalTimeInterval const& value);
    HLAinteger64Interval(HLAinteger64Interval const& value);
@@ -74,10 +75,12 @@ public:
    /// "HLAinteger64Time", the name of the time that the interval belongs to.
    virtual std::wstring implementationName() const;
 
+   /// The value as a number.
    virtual long long getInterval() const;
    virtual void setInterval(long long value);
    virtual HLAinteger64Interval& operator=(HLAinteger64Interval const& value);
 
+   /// The value as a number, without a word on it.
    operator long long() const;
 
 #if __cplusplus >= 202002L

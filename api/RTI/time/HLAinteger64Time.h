@@ -30,6 +30,7 @@ public:
    /// The initial time.
    HLAinteger64Time();
 
+   /// The number, or the value of another time.
    HLAinteger64Time(long long value);
    HLAinteger64Time(LogicalTime const& value);
    HLAinteger64Time(HLAinteger64Time const& value);
@@ -67,10 +68,12 @@ public:
    /// "HLAinteger64Time".
    virtual std::wstring implementationName() const;
 
+   /// The value as a number.
    virtual long long getTime() const;
    virtual void setTime(long long value);
    virtual HLAinteger64Time& operator=(HLAinteger64Time const& value);
 
+   /// The value as a number, without a word on it.
    operator long long() const;
 
 #if __cplusplus >= 202002L

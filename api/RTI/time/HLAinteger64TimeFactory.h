@@ -40,6 +40,7 @@ public:
    /// HLAinteger64TimeName.
    virtual std::wstring getName() const;
 
+   /// A time or an interval of that value. The caller owns it.
    virtual std::auto_ptr<HLAinteger64Time> makeLogicalTime(long long value)
          RTI_THROW((InternalError));
    virtual std::auto_ptr<HLAinteger64Interval> makeLogicalTimeInterval(long long value)
