@@ -174,6 +174,10 @@ TEST(ArrayTest, federatesOwnClasses)
    triples.encodeInto(buffer);
    EXPECT_EQ("55 55 55 55 00 00 61 62 63 61 62 63", hex(buffer.data(), buffer.size()));
    EXPECT_EQ(12U, triples.decodeFrom(buffer, 4));
+
+   VariableLengthData const padded = HLAfixedArray(Braggart(), 1).encode();
+   std::string const expected = "..." + std::string(97, '\0');
+   EXPECT_EQ(hex(expected.data(), expected.size()), hex(padded)) << "zeros, and no stray bytes";
    EXPECT_EQ(L"no triple", failureOf([&] { triples.decodeFrom(buffer, 7); }));
 }
 
@@ -206,10 +210,9 @@ TEST(ArrayTest, decodingVariableArrays)
 TEST(ArrayTest, decodingAtAnIndex)
 {
    HLAvariableArray array((HLAinteger64BE()));
-   std::vector<Octet> buffer(5);
-   buffer.insert(buffer.end(), {0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0});
-   buffer.insert(buffer.end(), {0, 0, 0, 0, 0, 0, 0, 9});
-   EXPECT_EQ(24U, array.decodeFrom(buffer, 5));
+   std::vector<Octet> buffer(12);
+   buffer.insert(buffer.end(), {0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 9});
+   EXPECT_EQ(24U, array.decodeFrom(buffer, 9));
    EXPECT_EQ(9, dynamic_cast<HLAinteger64BE const&>(array[0]).get());
    EXPECT_EQ(TOO_SHORT, failureOf([&] { array.decodeFrom(buffer, 21); }));
    EXPECT_EQ(TOO_SHORT, failureOf([&] { array.decodeFrom(buffer, 100); }));

@@ -81,6 +81,20 @@ public:
    static Triple* newestClone;
 };
 
+// Tells more bytes than it writes.
+class Braggart : public Triple {
+public:
+   std::auto_ptr<DataElement> clone() const override
+   {
+      return std::auto_ptr<DataElement>(new Braggart(*this));
+   }
+
+   std::size_t getEncodedLength() const RTI_THROW((rti1516e::EncoderException)) override
+   {
+      return 100;
+   }
+};
+
 // A scalar that stands at multiples of 8 and adds 1 to what it decodes.
 class WideInteger : public rti1516e::HLAinteger32BE {
 public:
