@@ -84,7 +84,7 @@ TEST_F(Load, threadsThatEnd)
    Figures const detached = measured("threads detached");
    EXPECT_EQ(before.javaThreads, detached.javaThreads);
    EXPECT_EQ(before.localReferences, detached.localReferences);
-   EXPECT_GT(2048, detached.residentKilobytes - before.residentKilobytes);
+   EXPECT_GT(8192, detached.residentKilobytes - before.residentKilobytes);
    runThreads(count, callService, *_rti);
    Figures const after = measured("threads not detached");
    EXPECT_EQ(before.javaThreads + count, after.javaThreads);
@@ -138,6 +138,7 @@ void expectNothingLeft(Figures const& before, Figures const& after)
    EXPECT_EQ(before.localReferences, after.localReferences);
    EXPECT_GE(before.globalReferences + 3, after.globalReferences);
    EXPECT_GT(8192, after.residentKilobytes - before.residentKilobytes);
+   EXPECT_GT(4096, after.allocatedKilobytes - before.allocatedKilobytes);
    EXPECT_GT(2048, after.heapKilobytes - before.heapKilobytes);
 }
 

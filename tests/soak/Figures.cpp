@@ -5,6 +5,9 @@
 #include <dlfcn.h>
 #include <fstream>
 #include <jvmti.h>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 #include <stdexcept>
 #include <unistd.h>
 
@@ -128,6 +131,16 @@ long status(std::string const& key)
    return value;
 }
 
+long allocated()
+{
+#if defined(__GLIBC__) && __GLIBC_PREREQ(2, 33)
+   struct mallinfo2 const info = mallinfo2();
+   return static_cast<long>((info.uordblks + info.hblkhd) / 1024);
+#else
+   return 0;
+#endif
+}
+
 } // namespace
 
 JNIEnv* environment()
@@ -144,16 +157,17 @@ Figures measure()
    check(tools->ForceGarbageCollection());
    check(tools->ForceGarbageCollection()); // what had to be finished first
    References const references = countReferences(tools);
-   return {status("VmRSS"), usedHeap(env), references.local, references.global,
+   return {status("VmRSS"), allocated(), usedHeap(env), references.local, references.global,
          countJavaThreads(tools, env), status("Threads")};
 }
 
 void print(std::string const& title, Figures const& figures)
 {
-   std::printf("%-24s resident %7ld KB, Java heap %6ld KB, references %ld local %ld global, "
-               "threads %ld Java %ld native\n",
-         title.c_str(), figures.residentKilobytes, figures.heapKilobytes, figures.localReferences,
-         figures.globalReferences, figures.javaThreads, figures.nativeThreads);
+   std::printf("%-24s resident %7ld KB, malloc %6ld KB, Java heap %6ld KB, references %ld local "
+               "%ld global, threads %ld Java %ld native\n",
+         title.c_str(), figures.residentKilobytes, figures.allocatedKilobytes,
+         figures.heapKilobytes, figures.localReferences, figures.globalReferences,
+         figures.javaThreads, figures.nativeThreads);
    std::fflush(stdout);
 }
 

@@ -9,9 +9,10 @@
 namespace soak {
 
 struct Figures {
-   long residentKilobytes; // of the process, Java's heap included
-   long heapKilobytes;     // used in Java's heap after a full collection
-   long localReferences;   // of native threads
+   long residentKilobytes;  // of the process, Java's heap included
+   long allocatedKilobytes; // by malloc and not freed, the VM's own included
+   long heapKilobytes;      // used in Java's heap after a full collection
+   long localReferences;    // of native threads
    long globalReferences;
    long javaThreads; // as the VM counts them
    long nativeThreads;

@@ -140,6 +140,7 @@ bool isFlat(Figures const& first, Figures const& last, long mayGrow)
          && last.globalReferences == first.globalReferences && last.javaThreads == first.javaThreads
          && last.nativeThreads <= first.nativeThreads
          && last.heapKilobytes <= first.heapKilobytes + 4096
+         && last.allocatedKilobytes <= first.allocatedKilobytes + mayGrow
          && last.residentKilobytes <= first.residentKilobytes + mayGrow;
 }
 
