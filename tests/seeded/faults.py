@@ -1,5 +1,5 @@
-"""Faults that the tests must catch. Each is what it is, a file, and pairs of old and new text; an
-old text occurs once in its file."""
+"""Faults that the tests must catch. Each is what it is, one or more files, and pairs of old and new
+text; an old text occurs once in each file."""
 
 ENCODER_H = "gen/cpp/Encoder.h"
 ENCODER = "gen/cpp/Encoder.cpp"
@@ -140,7 +140,8 @@ FAULTS = [
         "auto const divested = _rti->attributeOwnershipDivestitureIfWanted("
         "theObject, theAttributes);\n"
         "   theDivestedAttributes.insert(divested->begin(), divested->end());")]),
-    ("an exception missing in the adapter's list", "bridge/RTIambassadorAdapter.cpp", [(
+    ("an exception missing in the adapter's list",
+     "bridge/RTIambassadorAdapter.h bridge/RTIambassadorAdapter.cpp", [(
         "RTI_THROW((IllegalName, NameSetWasEmpty, RTI_COMMON_TAIL))",
         "RTI_THROW((IllegalName, RTI_COMMON_TAIL))")]),
     ("no time, told as one", "bridge/RTIambassadorAdapterTimeAndSupport.cpp", [(

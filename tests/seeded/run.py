@@ -59,16 +59,18 @@ def failing_test(build_folder):
 
 
 def seed(tree, fault):
-    """Writes the fault; gives the file and its sound text."""
-    name, path, edits = fault
-    file = tree / path
-    sound = text = file.read_text()
-    for old, new in edits:
-        if text.count(old) != 1:
-            sys.exit(f"'{name}' does not fit {path} any more: {text.count(old)} places for {old!r}")
-        text = text.replace(old, new)
-    file.write_text(text)
-    return file, sound
+    """Writes the fault; gives the files with their sound texts."""
+    name, paths, edits = fault
+    sound = {}
+    for path in paths.split():
+        file = tree / path
+        sound[file] = text = file.read_text()
+        for old, new in edits:
+            if text.count(old) != 1:
+                sys.exit(f"'{name}' does not fit {path} any more: {text.count(old)} times {old!r}")
+            text = text.replace(old, new)
+        file.write_text(text)
+    return sound
 
 
 def main():
@@ -92,14 +94,15 @@ def main():
     missed = 0
     for number, fault in enumerate(faults, 1):
         start = time.monotonic()
-        file, sound = seed(tree, fault)
+        sound = seed(tree, fault)
         try:
             built = build(tree, build_folder)
             if built.returncode:
                 sys.exit(f"'{fault[0]}' does not compile:\n{built.stdout}")
             caught = failing_test(build_folder)
         finally:
-            file.write_text(sound)
+            for file, text in sound.items():
+                file.write_text(text)
         missed += caught is None
         print(f"{number:3} {fault[0]:50} {caught or 'NOT CAUGHT':45} "
               f"{time.monotonic() - start:4.0f} s", flush=True)
