@@ -1,46 +1,9 @@
 // Opaque bytes behind a record that knows who frees them.
-#include <RTI/VariableLengthData.h>
+#include "api/VariableLengthDataImplementation.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace rti1516e {
-
-class VariableLengthDataImplementation {
-public:
-   VariableLengthDataImplementation() : data(nullptr), size(0), deleter(nullptr), owned(false) {}
-
-   VariableLengthDataImplementation(void const* inData, unsigned long inSize)
-         : data(new char[inSize]),
-           size(inSize),
-           deleter(nullptr),
-           owned(true)
-   {
-      if (inSize != 0) {
-         std::memcpy(data, inData, inSize);
-      }
-   }
-
-   VariableLengthDataImplementation(VariableLengthDataImplementation const&) = delete;
-   VariableLengthDataImplementation& operator=(VariableLengthDataImplementation const&) = delete;
-
-   ~VariableLengthDataImplementation()
-   {
-      if (!owned) {
-         return;
-      }
-      if (deleter != nullptr) {
-         deleter(data);
-      } else {
-         delete[] static_cast<char*>(data);
-      }
-   }
-
-   void* data;
-   unsigned long size;
-   void (*deleter)(void*); // null: the bytes are an array of char
-   bool owned;
-};
 
 VariableLengthData::VariableLengthData() : _implementation(new VariableLengthDataImplementation) {}
 

@@ -54,6 +54,8 @@ public:
    void takeDataPointer(void* inData, unsigned long inSize, void (*func)(void*) = 0);
 
 private:
+   friend class VariableLengthDataFriend;
+
    VariableLengthDataImplementation* _implementation;
 };
 

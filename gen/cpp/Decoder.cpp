@@ -3,6 +3,7 @@
 #include "jvm/Assert.h"
 
 #include <new>
+#include <tuple>
 #include <utility>
 
 using namespace rti1516e;
@@ -32,21 +33,16 @@ bool isCode(int code, Enumeration last)
    return code >= 0 && code <= last;
 }
 
-// Takes size and bytes of a value.
-void readBytes(ByteWrapper& buffer, VariableLengthData& data)
+// A value's bytes, where they are in the array.
+struct Block {
+   char* bytes;
+   unsigned long size;
+};
+
+Block readBlock(ByteWrapper& buffer)
 {
    unsigned long const size = static_cast<unsigned long>(buffer.getInt());
-   if (useCopies) {
-      try {
-         data.setData(buffer.getPtr(), size);
-      } catch (std::bad_alloc const&) {
-         new (&data) VariableLengthData; // a failed setData leaves nothing that can be destroyed
-         throw;
-      }
-   } else {
-      data.setDataPointer(buffer.getPtr(), size);
-   }
-   buffer.advance(size);
+   return {buffer.reserve(size), size};
 }
 
 template <class Handle>
@@ -58,14 +54,35 @@ void readHandleSet(ByteWrapper& buffer, Handle (*makeHandle)(int), std::set<Hand
    }
 }
 
-// The last of several values for one handle stays.
+// Where a handle's value is to go; what the handle had is dropped. As a rule handles ascend, and
+// the place is behind the others.
+template <class Values>
+typename Values::iterator makePlace(Values& values, typename Values::key_type const& handle)
+{
+   if (values.empty() || values.rbegin()->first < handle) {
+      return values.end();
+   }
+   typename Values::iterator const place = values.lower_bound(handle);
+   bool const isTaken = place != values.end() && place->first == handle;
+   return isTaken ? values.erase(place) : place;
+}
+
+// The last of several values for one handle stays. Values are made where they stay, so that each is
+// allocated once, and nothing half made is left behind when memory ends.
 template <class Handle>
 void readValueMap(
       ByteWrapper& buffer, Handle (*makeHandle)(int), std::map<Handle, VariableLengthData>& values)
 {
    int const count = buffer.getInt();
    for (int i = 0; i < count; ++i) {
-      readBytes(buffer, values[makeHandle(buffer.getInt())]);
+      Handle const handle = makeHandle(buffer.getInt());
+      Block const block = readBlock(buffer);
+      if (useCopies) {
+         values.emplace_hint(makePlace(values, handle), std::piecewise_construct,
+               std::forward_as_tuple(handle), std::forward_as_tuple(block.bytes, block.size));
+      } else {
+         values[handle].setDataPointer(block.bytes, block.size);
+      }
    }
 }
 
@@ -151,8 +168,12 @@ std::wstring decodeString(ByteWrapper& buffer)
 
 VariableLengthData decodeTag(ByteWrapper& buffer)
 {
+   Block const block = readBlock(buffer);
+   if (useCopies) {
+      return VariableLengthData(block.bytes, block.size);
+   }
    VariableLengthData tag;
-   readBytes(buffer, tag);
+   tag.setDataPointer(block.bytes, block.size);
    return tag;
 }
 
@@ -191,11 +212,6 @@ RegionHandleSet decodeRegionHandleSet(ByteWrapper& buffer)
    RegionHandleSet regions;
    readHandleSet(buffer, makeRegionHandle, regions);
    return regions;
-}
-
-JavaByteArray::JavaByteArray(FederateAmbassadorHelper*, ByteWrapper& buffer)
-{
-   readBytes(buffer, _value);
 }
 
 JavaFederateHandleSet::JavaFederateHandleSet(FederateAmbassadorHelper*, ByteWrapper& buffer)

@@ -67,7 +67,12 @@ public:
 
 protected:
    JavaValue() {}
-   explicit JavaValue(Value const& value) : _value(value) {}
+
+   // What `read` gives is the member itself and no copy of it.
+   template <class Read>
+   explicit JavaValue(Read const& read) : _value(read())
+   {
+   }
 
    Value _value;
 
@@ -79,6 +84,7 @@ private:
 // Class, value, and the expression that reads it from `buffer`.
 #define TARN_FOR_EACH_SIMPLE_DECODER(X)                                                            \
    X(JavaString, std::wstring, decodeString(buffer))                                               \
+   X(JavaByteArray, rti1516e::VariableLengthData, decodeTag(buffer))                               \
    X(JavaSynchronizationPointFailureReason, rti1516e::SynchronizationPointFailureReason,           \
          decodeSyncFailureReason(buffer.getInt()))                                                 \
    X(JavaSaveFailureReason, rti1516e::SaveFailureReason, decodeSaveFailureReason(buffer.getInt())) \
@@ -100,7 +106,10 @@ private:
 #define TARN_SIMPLE_DECODER(Class, Value, read)                                                    \
    class Class : public JavaValue<Value> {                                                         \
    public:                                                                                         \
-      Class(FederateAmbassadorHelper*, rti1516e::ByteWrapper& buffer) : JavaValue<Value>(read) {}  \
+      Class(FederateAmbassadorHelper*, rti1516e::ByteWrapper& buffer)                              \
+            : JavaValue<Value>([&buffer] { return read; })                                         \
+      {                                                                                            \
+      }                                                                                            \
    };
 
 TARN_FOR_EACH_SIMPLE_DECODER(TARN_SIMPLE_DECODER)
@@ -110,7 +119,6 @@ TARN_FOR_EACH_SIMPLE_DECODER(TARN_SIMPLE_DECODER)
 // Class and value of the decoders that fill a container or a record; their constructors are in
 // Decoder.cpp.
 #define TARN_FOR_EACH_FILLING_DECODER(X)                                                           \
-   X(JavaByteArray, rti1516e::VariableLengthData)                                                  \
    X(JavaFederateHandleSet, rti1516e::FederateHandleSet)                                           \
    X(JavaAttributeHandleSet, rti1516e::AttributeHandleSet)                                         \
    X(JavaSetOfString, std::set<std::wstring>)                                                      \

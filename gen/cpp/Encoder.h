@@ -20,6 +20,7 @@
 #define gen_Encoder_h
 
 #include "api/HandleFriends.h"
+#include "api/VariableLengthDataImplementation.h"
 #include "gen/cpp/ByteWrapper.h"
 #include <RTI/Enums.h>
 #include <RTI/Handle.h>
@@ -237,10 +238,17 @@ class CppWrapper<std::set<std::wstring> const&> : public StringsWrapper<std::set
    using StringsWrapper::StringsWrapper;
 };
 
+inline unsigned long sizeOf(rti1516e::VariableLengthData const& data)
+{
+   return rti1516e::VariableLengthDataFriend::getImplementation(data).size;
+}
+
 inline void putBytes(rti1516e::ByteWrapper& buffer, rti1516e::VariableLengthData const& data)
 {
-   buffer.putInt(static_cast<int>(data.size()));
-   buffer.put(data.data(), data.size());
+   rti1516e::VariableLengthDataImplementation const& record =
+         rti1516e::VariableLengthDataFriend::getImplementation(data);
+   buffer.putInt(static_cast<int>(record.size));
+   buffer.put(record.data, record.size);
 }
 
 template <>
@@ -250,7 +258,7 @@ public:
 
    unsigned long getEncodedSize() const
    {
-      return 4 + _value.size();
+      return 4 + sizeOf(_value);
    }
 
    void encode(rti1516e::ByteWrapper& buffer) const
@@ -326,33 +334,58 @@ private:
    std::set<Handle> const& _value;
 };
 
+// The way through a tree costs more than the writing of what is found, so it is gone once: while
+// the sizes are summed, the entries are noted, as many as there is room for.
 template <class Handle>
 class CppWrapper<std::map<Handle, rti1516e::VariableLengthData> const&> : noncopyable {
 public:
    typedef std::map<Handle, rti1516e::VariableLengthData> Values;
 
-   CppWrapper(JNIEnv*, Values const& value) : _value(value) {}
+   CppWrapper(JNIEnv*, Values const& value) : _value(value), _size(4), _noted(0)
+   {
+      typename Values::const_iterator entry = value.begin();
+      for (; entry != value.end() && _noted != room; ++entry) {
+         _entries[_noted++] = &*entry;
+         _size += 8 + sizeOf(entry->second);
+      }
+      _rest = entry;
+      for (; entry != value.end(); ++entry) {
+         _size += 8 + sizeOf(entry->second);
+      }
+   }
 
    unsigned long getEncodedSize() const
    {
-      unsigned long size = 4;
-      for (typename Values::value_type const& entry : _value) {
-         size += 8 + entry.second.size();
-      }
-      return size;
+      return _size;
    }
 
    void encode(rti1516e::ByteWrapper& buffer) const
    {
       buffer.putInt(static_cast<int>(_value.size()));
-      for (typename Values::value_type const& entry : _value) {
-         putHandle(buffer, entry.first);
-         putBytes(buffer, entry.second);
+      for (int i = 0; i != _noted; ++i) {
+         putEntry(buffer, *_entries[i]);
+      }
+      for (typename Values::const_iterator entry = _rest; entry != _value.end(); ++entry) {
+         putEntry(buffer, *entry);
       }
    }
 
 private:
+   typedef typename Values::value_type Entry;
+
+   static int const room = 128;
+
+   static void putEntry(rti1516e::ByteWrapper& buffer, Entry const& entry)
+   {
+      putHandle(buffer, entry.first);
+      putBytes(buffer, entry.second);
+   }
+
    Values const& _value;
+   unsigned long _size;
+   int _noted;
+   Entry const* _entries[room];
+   typename Values::const_iterator _rest; // the first that is not noted
 };
 
 template <>
