@@ -17,6 +17,14 @@ function(tarn_own_code target)
       $<$<BOOL:${TARN_WERROR}>:-Werror>
       # An assertion's file name is told from a folder beside the sources' root.
       -fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=../)
+   if(TARN_HARDEN)
+      target_compile_options(${target} PRIVATE
+         -Wnull-dereference -fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2
+         -D_GLIBCXX_ASSERTIONS)
+      if(NOT APPLE)
+         target_link_options(${target} PRIVATE -Wl,-z,relro,-z,now)
+      endif()
+   endif()
    if(TARN_SANITIZE)
       target_compile_options(${target} PRIVATE
          -fsanitize=${TARN_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)

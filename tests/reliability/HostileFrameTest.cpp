@@ -4,6 +4,7 @@
 #include "gen/cpp/HandleTable.h"
 #include "tests/contract/Show.h"
 #include "tests/reliability/FrameModel.h"
+#include "tests/support/LimitedNew.h"
 #include <RTI/time/HLAfloat64TimeFactory.h>
 #include <RTI/time/HLAinteger64TimeFactory.h>
 
@@ -35,27 +36,14 @@ sigjmp_buf whenItEnds;
 std::string assertion;
 char const* faultAddress;
 
-} // namespace
-
 // While a frame is read, memory has a limit.
-void* operator new(std::size_t size)
+void setDecoding(bool on)
 {
-   void* const memory = decoding && size > allocationLimit ? nullptr : std::malloc(size);
-   if (memory == nullptr) {
-      throw std::bad_alloc();
-   }
-   return memory;
+   decoding = on;
+   support::allocationLimit = on ? reliability::allocationLimit : support::largeAllocation;
 }
 
-void operator delete(void* memory) noexcept
-{
-   std::free(memory);
-}
-
-void operator delete(void* memory, std::size_t) noexcept
-{
-   std::free(memory);
-}
+} // namespace
 
 // In place of the platform's, so that one process sees them all.
 #ifdef __APPLE__
@@ -65,7 +53,7 @@ extern "C" void __assert_fail(
       char const* condition, char const*, unsigned int, char const* function) noexcept
 #endif
 {
-   decoding = false;
+   setDecoding(false);
    assertion = condition == std::string("false") ? function : condition;
    siglongjmp(whenItEnds, 1);
 }
@@ -79,7 +67,7 @@ void onFault(int, siginfo_t* info, void*)
       std::signal(SIGBUS, SIG_DFL);
       return;
    }
-   decoding = false;
+   setDecoding(false);
    faultAddress = static_cast<char const*>(info->si_addr);
    siglongjmp(whenItEnds, 2);
 }
@@ -196,7 +184,7 @@ protected:
       jbyteArray const array = reinterpret_cast<jbyteArray>(_cliff.place(frame));
       _record = CallbackRecord();
       pinned = 0;
-      _record.inside = [] { decoding = false; };
+      _record.inside = [] { setDecoding(false); };
       switch (sigsetjmp(whenItEnds, 0)) {
       case 1:
          return {Ending::ASSERTION, assertion};
@@ -205,10 +193,10 @@ protected:
                                               : Outcome{Ending::NULL_POINTER, ""};
       }
       try {
-         decoding = true;
+         setDecoding(true);
          native(&_env, nullptr, array);
       } catch (std::bad_alloc const&) {
-         decoding = false;
+         setDecoding(false);
          return {Ending::EXCEPTION, ""};
       }
       EXPECT_EQ(1, _record.calls);
