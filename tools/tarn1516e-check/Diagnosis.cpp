@@ -101,11 +101,15 @@ bool Diagnosis::tell() const
          && ambassador() && firstConnect();
 }
 
-void Diagnosis::tellTrial() const
+void Diagnosis::tellTrace() const
 {
    for (std::string const& line : _trial.trace) {
       std::printf("   > %s\n", line.c_str());
    }
+}
+
+void Diagnosis::tellOutput() const
+{
    std::istringstream lines(_trial.output);
    std::string line;
    while (std::getline(lines, line)) {

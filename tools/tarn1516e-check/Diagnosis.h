@@ -17,8 +17,9 @@ public:
    // what to do about it. True if none does.
    bool tell() const;
 
-   // What start-up itself wrote.
-   void tellTrial() const;
+   // What was written while starting, behind a bar; the library's own trace behind a '>'.
+   void tellOutput() const;
+   void tellTrace() const;
 
 private:
    // The steps, each true if the next one may follow.

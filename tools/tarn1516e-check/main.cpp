@@ -22,7 +22,7 @@ char const usage[] = //
       "      --host-vm CLASSPATH   have a Java VM with this class path in the process before, as "
       "a\n"
       "                            program written in Java has, and join it\n"
-      "  -v, --verbose             also print all that start-up wrote\n"
+      "  -v, --verbose             also print all that start-up wrote, its trace included\n"
       "  -h, --help                print this and exit\n"
       "      --version             print the library's version and exit\n"
       "\n"
@@ -96,8 +96,11 @@ int main(int argc, char** argv)
       if (well) {
          std::puts("All is well: a federate starts here.");
       }
+      if (arguments.verbose) {
+         diagnosis.tellTrace();
+      }
       if (!well || arguments.verbose) {
-         diagnosis.tellTrial();
+         diagnosis.tellOutput();
       }
       return well ? allIsWell : doesNotStart;
    } catch (std::exception const& e) {
