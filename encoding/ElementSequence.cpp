@@ -7,7 +7,7 @@
 
 namespace rti1516e {
 
-ElementSequence::ElementSequence() {}
+ElementSequence::ElementSequence() : _scalarBoundary(1), _others(0) {}
 
 ElementSequence::ElementSequence(ElementSequence const& rhs) : ElementSequence()
 {
@@ -30,27 +30,55 @@ void ElementSequence::append(ElementSlot slot)
       release(slot);
       throw;
    }
+   count(slot);
+}
+
+void ElementSequence::count(ElementSlot const& slot)
+{
+   if (slot.codec != nullptr) {
+      _scalarBoundary = std::max(_scalarBoundary, slot.codec->bytes);
+   } else {
+      ++_others;
+   }
+}
+
+void ElementSequence::countAll()
+{
+   _scalarBoundary = 1;
+   _others = 0;
+   for (ElementSlot const& slot : _slots) {
+      count(slot);
+   }
 }
 
 void ElementSequence::replace(std::size_t index, ElementSlot slot)
 {
    std::swap(_slots[index], slot);
+   if (slot.codec != _slots[index].codec) {
+      countAll();
+   }
    release(slot);
 }
 
 void ElementSequence::truncate(std::size_t size)
 {
-   while (_slots.size() > size) {
-      release(_slots.back());
-      _slots.pop_back();
+   if (size >= _slots.size()) {
+      return;
    }
+   for (std::size_t i = size; i < _slots.size(); ++i) {
+      release(_slots[i]);
+   }
+   _slots.resize(size);
+   countAll();
 }
 
 unsigned int ElementSequence::boundary(unsigned int least) const
 {
-   unsigned int largest = least;
-   for (ElementSlot const& slot : _slots) {
-      largest = std::max(largest, boundaryOf(slot));
+   unsigned int largest = std::max(least, _scalarBoundary);
+   if (_others != 0) {
+      for (ElementSlot const& slot : _slots) {
+         largest = std::max(largest, boundaryOf(slot));
+      }
    }
    return largest;
 }

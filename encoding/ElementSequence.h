@@ -34,7 +34,8 @@ public:
    // Releases the elements from size on.
    void truncate(std::size_t size);
 
-   // The largest boundary among the elements, and at least the one given.
+   // The largest boundary among the elements, and at least the one given. Takes no longer for more
+   // scalars.
    unsigned int boundary(unsigned int least) const;
 
    // Each element pads to its own boundary.
@@ -54,7 +55,13 @@ private:
    Slots::const_iterator encodeScalars(
          Slots::const_iterator first, std::vector<Octet>& buffer) const;
 
+   // Keep what boundary() goes by.
+   void count(ElementSlot const& slot);
+   void countAll();
+
    Slots _slots;
+   unsigned int _scalarBoundary; // the largest among the scalars
+   std::size_t _others;          // number of elements that are no scalars
 };
 
 } // namespace rti1516e

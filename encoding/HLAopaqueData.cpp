@@ -5,7 +5,6 @@
 #include "encoding/Encoder.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace rti1516e {
 
@@ -20,25 +19,16 @@ class HLAopaqueDataImplementation {
 public:
    HLAopaqueDataImplementation() : buffer(nullptr), bufferLength(0), dataLength(0), owned(true) {}
 
-   // A copy of its own, not null even if it is empty.
    HLAopaqueDataImplementation(Octet const* data, std::size_t length)
-         : buffer(new Octet[length]),
-           bufferLength(length),
-           dataLength(length),
-           owned(true)
+         : HLAopaqueDataImplementation()
    {
-      if (length != 0) {
-         std::memcpy(buffer, data, length);
-      }
+      copy(data, length);
    }
 
-   // The caller's memory.
    HLAopaqueDataImplementation(Octet* external, std::size_t bufferSize, std::size_t dataSize)
-         : buffer(external),
-           bufferLength(bufferSize),
-           dataLength(dataSize),
-           owned(false)
+         : HLAopaqueDataImplementation()
    {
+      use(external, bufferSize, dataSize);
    }
 
    HLAopaqueDataImplementation(HLAopaqueDataImplementation const&) = delete;
@@ -46,9 +36,39 @@ public:
 
    ~HLAopaqueDataImplementation()
    {
+      release();
+   }
+
+   // A copy of its own, not null even if it is empty.
+   void copy(Octet const* data, std::size_t length)
+   {
+      release();
+      buffer = new Octet[length];
+      std::copy(data, data + length, buffer);
+      bufferLength = length;
+      dataLength = length;
+   }
+
+   // The caller's memory.
+   void use(Octet* external, std::size_t bufferSize, std::size_t dataSize)
+   {
+      release();
+      buffer = external;
+      bufferLength = bufferSize;
+      dataLength = dataSize;
+      owned = false;
+   }
+
+   // Leaves what the default constructor makes.
+   void release()
+   {
       if (owned) {
          delete[] buffer;
       }
+      buffer = nullptr;
+      bufferLength = 0;
+      dataLength = 0;
+      owned = true;
    }
 
    Octet* buffer;
@@ -143,14 +163,12 @@ std::size_t HLAopaqueData::dataLength() const
 void HLAopaqueData::setDataPointer(Octet** inData, std::size_t bufferSize, std::size_t dataSize)
       RTI_THROW((EncoderException))
 {
-   delete _implementation;
-   _implementation = new HLAopaqueDataImplementation(*inData, bufferSize, dataSize);
+   _implementation->use(*inData, bufferSize, dataSize);
 }
 
 void HLAopaqueData::set(Octet const* inData, std::size_t dataSize)
 {
-   delete _implementation;
-   _implementation = new HLAopaqueDataImplementation(inData, dataSize);
+   _implementation->copy(inData, dataSize);
 }
 
 Octet const* HLAopaqueData::get() const

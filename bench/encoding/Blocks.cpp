@@ -55,8 +55,10 @@ void addWideFloor(
       char* out = addRoom(buffer, 4, 4 + 2 * text->size());
       Encoder::encodeHLAinteger32BE(static_cast<int>(text->size()), out);
       out += 4;
-      for (std::size_t i = 0; i < text->size(); ++i) {
-         Encoder::encodeHLAunicodeChar((*text)[i], out + 2 * i);
+      wchar_t const* const characters = text->data();
+      std::size_t const count = text->size();
+      for (std::size_t i = 0; i < count; ++i) {
+         Encoder::encodeHLAunicodeChar(characters[i], out + 2 * i);
       }
    });
    measureDecode(name + "/floor", 1, bytes, [=](Bytes const& buffer) {
