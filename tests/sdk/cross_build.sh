@@ -5,7 +5,7 @@ set -euo pipefail
 build=$1
 source=$(cd "$(dirname "$0")/../.." && pwd)
 
-cmake -S "$source" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DTARN_TESTS=OFF \
+cmake -S "$source" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Debug -DTARN_TESTS=OFF \
    -DCMAKE_SYSTEM_NAME=Linux -DCMAKE_SYSTEM_PROCESSOR=aarch64 \
    -DCMAKE_CXX_COMPILER=aarch64-linux-gnu-g++ -DTARN_WERROR=ON \
    -DCMAKE_FIND_ROOT_PATH_MODE_PROGRAM=NEVER

@@ -6,7 +6,7 @@ import re
 
 import sdk
 
-VERSIONS = ("c++14", "c++17", "c++20")
+VERSIONS = ("c++14", "c++20")
 
 AROUND = """\
 #include <RTI/encoding/BasicDataElements.h>
