@@ -2,6 +2,7 @@
 // the next.
 #include "tests/contract/Rows.h"
 #include "tests/support/Script.h"
+#include <RTI/time/HLAinteger64Interval.h>
 #include <RTI/time/HLAinteger64Time.h>
 
 #include <cstdlib>
@@ -66,6 +67,17 @@ TEST_F(Edges, bodiesToTheLetter)
    EXPECT_EQ("FF FF FF FE 00 00 00 01 00 00 00 01 00 00 00 03 00 00 00 02 00 00 00 04 00 00 00 05",
          sent("associateRegionsForUpdates_OIH_ASRSPL"));
 }
+
+#ifndef CONTRACT_SANITIZED // which would complain of the value before the library sees it
+TEST_F(Edges, everyOtherCallbackModelIsImmediate)
+{
+   Federate federate;
+   takeHandle();
+   int const other = 7;
+   federate.rti->connect(*federate.callbacks, static_cast<CallbackModel>(other));
+   EXPECT_EQ(integer(2).bytes, script::lastBody("connect_FA_CM_S").bytes.substr(4, 4));
+}
+#endif
 
 // A connect that fails has already replaced the ambassador and taken a handle.
 TEST_F(Edges, connectStoresTheAmbassadorFirst)
@@ -144,6 +156,37 @@ TEST_F(Edges, everyJoinReplacesTheTimeFactory)
    EXPECT_EQ(Texts{"HLAfloat64Time time 00 00 00 00 00 00 00 06"}, federate.record.arguments);
 }
 
+// Before a join nobody can decode a time; null is none of its own either, but for the two queries
+// that say so.
+TEST_F(Edges, timesThatCannotBeReadAreTold)
+{
+   std::wstring const text = L"There is no time factory to decode the RTI's answer with";
+   Federate federate;
+   HLAinteger64Time time(3);
+   HLAinteger64Interval interval(4);
+   std::function<void()> const queries[] = {[&] { federate.rti->queryGALT(time); },
+         [&] { federate.rti->queryLITS(time); }, [&] { federate.rti->queryLogicalTime(time); },
+         [&] { federate.rti->queryLookahead(interval); }};
+   for (char const* const method :
+         {"queryGALT", "queryLITS", "queryLogicalTime", "queryLookahead"}) {
+      script::answerBytes(method, longInteger(5).bytes);
+   }
+   for (auto const& query : queries) {
+      try {
+         query();
+         ADD_FAILURE() << "answered";
+      } catch (RTIinternalError const& e) {
+         EXPECT_EQ(text, e.what());
+      }
+   }
+   EXPECT_FALSE(federate.rti->queryGALT(time)); // null now
+   EXPECT_FALSE(federate.rti->queryLITS(time));
+   EXPECT_THROW(federate.rti->queryLogicalTime(time), RTIinternalError);
+   EXPECT_THROW(federate.rti->queryLookahead(interval), RTIinternalError);
+   EXPECT_EQ(3, time.getTime());
+   EXPECT_EQ(4, interval.getInterval());
+}
+
 TEST_F(Edges, timeFactoriesBelongToTheFederate)
 {
    script::answerString("getTimeFactory", L"HLAfloat64Time", true);
@@ -153,7 +196,6 @@ TEST_F(Edges, timeFactoriesBelongToTheFederate)
    EXPECT_EQ(2, script::totalCalls());
 }
 
-// Neither needs Java; both are there before any connection.
 TEST_F(Edges, handlesAreDecodedWithoutJava)
 {
    std::unique_ptr<RTIambassador> const rti = newAmbassador();
