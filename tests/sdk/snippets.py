@@ -1,4 +1,4 @@
-"""Compiles every piece of C++ in the documents. A piece with a main or with includes is compiled as
+"""Compiles every piece of C++ in the documents, and follows their links. A piece with a main or with includes is compiled as
 it stands; any other one as the body of a function with what a federate has at hand. A piece may
 begin with a line "// C++17 and later", or another version, if it holds from there on only."""
 
@@ -48,12 +48,18 @@ def source(name, text):
     return None, AROUND % (name, text)
 
 
+def follow_links(document, differences):
+    for link in re.findall(r"\]\(([^)#:]+)\)", document.read_text()):
+        differences.check(f"{document.name} leads to {link}", (document.parent / link).exists())
+
+
 def main():
     to = sdk.settings()
     differences = sdk.Differences()
     documents = [to.source / "README.md", *sorted((to.source / "docs").glob("*.md"))]
     with sdk.Scratch() as scratch:
         for document in documents:
+            follow_links(document, differences)
             for line, text in pieces(document):
                 name = f"{document.name}:{line}"
                 head, body = source(name, text)

@@ -18,9 +18,10 @@ MAY_INCLUDE = {
     "fedtime": ("api/",),
     "gen": ("api/", "jvm/", "bridge/JavaExceptions.h"),
     "bridge": ("api/", "jvm/", "gen/"),
+    "tools": ("api/", "jvm/Platform.h"),
 }
 EXCEPTIONS = {"bridge/JavaExceptions": ("jvm/",)}
-JNI_ROOMS = ("jvm", "gen", "bridge")
+JNI_ROOMS = ("jvm", "gen", "bridge", "tools")
 
 
 def faults(path):
