@@ -8,12 +8,12 @@ namespace rti1516e {
 VariableLengthData::VariableLengthData() : _implementation(new VariableLengthDataImplementation) {}
 
 VariableLengthData::VariableLengthData(void const* inData, unsigned long inSize)
-      : _implementation(new VariableLengthDataImplementation(inData, inSize))
+      : _implementation(VariableLengthDataImplementation::makeCopy(inData, inSize))
 {
 }
 
 VariableLengthData::VariableLengthData(VariableLengthData const& rhs)
-      : _implementation(new VariableLengthDataImplementation(rhs.data(), rhs.size()))
+      : _implementation(VariableLengthDataImplementation::makeCopy(rhs.data(), rhs.size()))
 {
 }
 
@@ -41,7 +41,7 @@ unsigned long VariableLengthData::size() const
 void VariableLengthData::setData(void const* inData, unsigned long inSize)
 {
    delete _implementation;
-   _implementation = new VariableLengthDataImplementation(inData, inSize);
+   _implementation = VariableLengthDataImplementation::makeCopy(inData, inSize);
 }
 
 void VariableLengthData::setDataPointer(void* inData, unsigned long inSize)

@@ -4,23 +4,45 @@
 
 #include <RTI/VariableLengthData.h>
 
+#include <cstddef>
 #include <cstring>
+#include <new>
 
 namespace rti1516e {
 
+// Copied bytes lie behind the record, in one allocation with it; all others lie where the caller
+// has them.
 class VariableLengthDataImplementation {
 public:
    VariableLengthDataImplementation() : data(nullptr), size(0), deleter(nullptr), owned(false) {}
 
-   VariableLengthDataImplementation(void const* inData, unsigned long inSize)
-         : data(new char[inSize]),
-           size(inSize),
-           deleter(nullptr),
-           owned(true)
+   // A new record with a copy of the bytes.
+   static VariableLengthDataImplementation* makeCopy(void const* inData, unsigned long inSize)
    {
-      if (inSize != 0) {
-         std::memcpy(data, inData, inSize);
+      unsigned long const room = sizeof(VariableLengthDataImplementation) + inSize;
+      if (room < inSize) { // more than there are addresses
+         throw std::bad_alloc();
       }
+      VariableLengthDataImplementation* const record =
+            ::new (operator new(room)) VariableLengthDataImplementation;
+      record->data = record + 1;
+      record->size = inSize;
+      if (inSize != 0) {
+         std::memcpy(record->data, inData, inSize);
+      }
+      return record;
+   }
+
+   // A record has more room than its type tells: it is made as an array of char.
+
+   static void* operator new(std::size_t room)
+   {
+      return new char[room];
+   }
+
+   static void operator delete(void* record)
+   {
+      delete[] static_cast<char*>(record);
    }
 
    VariableLengthDataImplementation(VariableLengthDataImplementation const&) = delete;
@@ -41,7 +63,7 @@ public:
    void* data;
    unsigned long size;
    void (*deleter)(void*); // null: the bytes are an array of char
-   bool owned;
+   bool owned;             // whether the bytes must be freed apart from the record
 };
 
 class VariableLengthDataFriend {

@@ -1,6 +1,7 @@
 #include "tests/reliability/FrameModel.h"
 
 #include "api/HandleFriends.h"
+#include "api/VariableLengthDataImplementation.h"
 #include "tests/contract/Rows.h"
 
 #include <functional>
@@ -14,6 +15,9 @@ using namespace contract;
 namespace reliability {
 
 namespace {
+
+// In front of copied bytes, in one allocation with them.
+std::size_t const recordSize = sizeof(VariableLengthDataImplementation);
 
 struct Ended {
    Ending ending;
@@ -72,7 +76,7 @@ public:
 
    VariableLengthData block()
    {
-      std::string const content = take(size(1, 0));
+      std::string const content = take(size(1, recordSize));
       return VariableLengthData(content.data(), content.size());
    }
 
@@ -151,7 +155,8 @@ std::string retraction(Reader& frame)
    signed char const* const bytes = reinterpret_cast<signed char const*>(size.data());
    long const payloadSize = static_cast<unsigned char>(bytes[0]) * 0x1000000L | bytes[1] * 0x10000L
          | bytes[2] * 0x100L | bytes[3];
-   if (payloadSize < -8 || payloadSize + 8 > static_cast<long>(allocationLimit)) {
+   if (payloadSize < -8
+         || payloadSize + 8 + static_cast<long>(recordSize) > static_cast<long>(allocationLimit)) {
       end(Ending::EXCEPTION);
    }
    if (payloadSize < 0) {
