@@ -42,7 +42,7 @@ def copy_tree(tree):
 def build(tree, build_folder):
     if not (build_folder / "build.ninja").exists():
         configured = quietly([
-            "cmake", "-S", tree, "-B", build_folder, "-G", "Ninja", "-DTARN_EXAMPLES=OFF",
+            "cmake", "-S", tree, "-B", build_folder, "-G", "Ninja",
             "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON"])
         if configured.returncode:
             sys.exit(configured.stdout)
