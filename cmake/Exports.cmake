@@ -5,7 +5,7 @@
 # Mangled, since a demangled function template begins with the type of its result.
 set(EXPORTED_NAMES
    _ZN8rti1516e* _ZNK8rti1516e*                     # functions of namespace rti1516e
-   _ZlsRSt*RKN8rti1516e*                            # how intervals are written
+   _ZlsR*RKN8rti1516e*                              # how intervals are written
    _ZTVN8rti1516e* _ZTIN8rti1516e* _ZTSN8rti1516e*  # and the type records of its classes
    _ZN9tarn1516e5mutex* _ZN9tarn1516e6thread* _ZNK9tarn1516e6thread* _ZN9tarn1516e11this_thread*
    _ZN9tarn1516els*                                 # how thread identifiers are written
@@ -27,4 +27,8 @@ file(CONFIGURE OUTPUT ${EXPORT_LIST} CONTENT "${EXPORTED_TEXT}\n")
 function(tarn_exports target)
    target_link_options(${target} PRIVATE ${EXPORT_FLAG}${EXPORT_LIST})
    set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${EXPORT_LIST})
+   if(NOT APPLE)
+      # Calls of a library to itself go straight there; elsewhere no other way exists.
+      target_link_options(${target} PRIVATE -Wl,-Bsymbolic-functions)
+   endif()
 endfunction()
