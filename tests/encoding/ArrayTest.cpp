@@ -210,8 +210,8 @@ TEST(ArrayTest, decodingVariableArrays)
 TEST(ArrayTest, decodingAtAnIndex)
 {
    HLAvariableArray array((HLAinteger64BE()));
-   std::vector<Octet> buffer(12);
-   buffer.insert(buffer.end(), {0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 9});
+   std::vector<Octet> const buffer = {
+         0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 9};
    EXPECT_EQ(24U, array.decodeFrom(buffer, 9));
    EXPECT_EQ(9, dynamic_cast<HLAinteger64BE const&>(array[0]).get());
    EXPECT_EQ(TOO_SHORT, failureOf([&] { array.decodeFrom(buffer, 21); }));
