@@ -1,9 +1,13 @@
-"""Compares what is installed, component by component, with installed-files.txt."""
+"""Compares what is installed, component by component, with installed-files.txt. With --write behind
+the settings it writes the list."""
 
 import os
+import sys
 from pathlib import Path
 
 import sdk
+
+LIST = Path(__file__).parent / "installed-files.txt"
 
 
 def files_below(to, prefix):
@@ -33,7 +37,7 @@ def build_type(to):
 def expected_files():
     """Component to paths."""
     components, names = {}, None
-    for line in (Path(__file__).parent / "installed-files.txt").read_text().splitlines():
+    for line in LIST.read_text().splitlines():
         if line.startswith("["):
             names = components.setdefault(line.strip("[]"), set())
         elif line and not line.startswith("#"):
@@ -41,15 +45,33 @@ def expected_files():
     return components
 
 
+def installed_files(to, components, scratch):
+    """Component to paths."""
+    installed = {}
+    for component in components:
+        sdk.install(to, scratch / component, "--component", component)
+        installed[component] = files_below(to, scratch / component)
+    return installed
+
+
+def write_list(installed):
+    text = LIST.read_text().split("\n[")[0]
+    for component, names in installed.items():
+        text += "\n".join([f"\n[{component}]", *sorted(names), ""])
+    LIST.write_text(text)
+
+
 def main():
     to = sdk.settings()
     differences = sdk.Differences()
     expected = expected_files()
     with sdk.Scratch() as scratch:
+        installed = installed_files(to, expected, scratch)
+        if "--write" in sys.argv:
+            write_list(installed)
+            expected = expected_files()
         for component, names in expected.items():
-            prefix = scratch / component
-            sdk.install(to, prefix, "--component", component)
-            differences.same_lines(component, names, files_below(to, prefix))
+            differences.same_lines(component, names, installed[component])
         sdk.install(to, scratch / "all")
         usual = set().union(*(names for component, names in expected.items()
                               if component != "standin"))

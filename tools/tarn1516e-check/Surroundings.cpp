@@ -38,7 +38,7 @@ std::string directoryOf(std::string const& path)
 std::string resolved(std::string const& path)
 {
    char* const result = realpath(path.c_str(), nullptr);
-   std::string const text = result != nullptr ? result : path;
+   std::string text = result != nullptr ? result : path;
    std::free(result);
    return text;
 }
@@ -204,7 +204,7 @@ std::string ownMachine()
 std::string vmOnLibraryPath()
 {
    for (std::string const& folder : elementsOf(valueOf(libraryPathVariable()))) {
-      std::string const file = folder + "/" + tarn1516e::vmLibraryName;
+      std::string file = folder + "/" + tarn1516e::vmLibraryName;
       if (exists(file)) {
          return file;
       }
