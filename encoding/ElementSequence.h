@@ -21,6 +21,7 @@ public:
    {
       return _slots.size();
    }
+
    DataElement& operator[](std::size_t index) const
    {
       return *_slots[index].element;

@@ -1,6 +1,6 @@
 // The short way to a scalar inside an array or a record. The composite has aligned the place and
-// tested the room; without the calls and tests that each scalar would make for itself, an element
-// costs a third.
+// tested the room, and the vector grows once for many: that is most of what a scalar's own
+// operations take their time for.
 #ifndef encoding_ScalarCodec_h
 #define encoding_ScalarCodec_h
 
