@@ -17,7 +17,8 @@ FAULTS = [
         "CppWrapper(JNIEnv*, std::wstring const& value) : _value(value) {}\n\n"
         "   unsigned long getEncodedSize() const\n   {\n      return 4 + 2 *")]),
     ("a map's entry declares 4 bytes more", ENCODER_H, [(
-        "size += 8 + entry.second.size()", "size += 12 + entry.second.size()")]),
+        "_entries[_noted++] = &*entry;\n         _size += 8 +",
+        "_entries[_noted++] = &*entry;\n         _size += 12 +")]),
     ("a character's low byte first", ENCODER_H, [(
         "static_cast<char>(character >> 8)", "static_cast<char>(character & 0xFF)"), (
         "static_cast<char>(character);", "static_cast<char>(character >> 8);")]),
@@ -110,9 +111,7 @@ FAULTS = [
     ("the last code out of range", DECODER, [("code <= last", "code < last")]),
     ("one code too many", DECODER, [("code <= last", "code <= last + 1")]),
     ("the first of two values for a handle stays", DECODER, [(
-        "readBytes(buffer, values[makeHandle(buffer.getInt())]);",
-        "VariableLengthData value;\n      Handle const handle = makeHandle(buffer.getInt());\n"
-        "      readBytes(buffer, value);\n      values.insert(std::make_pair(handle, value));")]),
+        "return isTaken ? values.erase(place) : place;", "return place;")]),
     ("before and after exchanged in a restore's status", DECODER, [(
         "FederateRestoreStatus(before, after,", "FederateRestoreStatus(after, before,")]),
 
