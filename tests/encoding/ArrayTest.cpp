@@ -61,6 +61,29 @@ TEST(ArrayTest, encodingAndBoundaries)
    EXPECT_EQ(4U, mixed.getOctetBoundary());
 }
 
+// What made the boundary greater is replaced, or cut off.
+TEST(ArrayTest, boundariesThatShrink)
+{
+   HLAvariableArray array((HLAinteger32BE()));
+   array.addElement(HLAinteger64BE(1LL));
+   array.addElement(HLAinteger64BE(2LL));
+   EXPECT_EQ(8U, array.getOctetBoundary());
+   array.set(0, HLAinteger32BE(1));
+   EXPECT_EQ(8U, array.getOctetBoundary());
+   array.decode(fromHex("00 00 00 01 00 00 00 05"));
+   EXPECT_EQ(4U, array.getOctetBoundary());
+   array.addElement(Triple());
+   EXPECT_EQ(4U, array.getOctetBoundary());
+   array.addElement(WideInteger());
+   EXPECT_EQ(8U, array.getOctetBoundary());
+   array.set(2, HLAinteger32BE(3));
+   EXPECT_EQ(4U, array.getOctetBoundary());
+   HLAvariableArray replaced((HLAinteger32BE()));
+   replaced.addElement(HLAinteger64BE(1LL));
+   replaced.set(0, HLAinteger32BE(1));
+   EXPECT_EQ(4U, replaced.getOctetBoundary());
+}
+
 TEST(ArrayTest, typesAndHash)
 {
    HLAfixedArray const octets(HLAoctet(), 3);
@@ -152,6 +175,8 @@ TEST(ArrayTest, elementsAreReleased)
       EXPECT_EQ(before + 1 + 2 + 1 + 1, Triple::alive);
       variable.decode(VariableLengthData("\0\0\0\0", 4));
       EXPECT_EQ(0U, variable.size());
+      fixed = HLAfixedArray(Triple(), 3);
+      fixed.setElementPointer(0, &mine);
       EXPECT_EQ(before + 1 + 2 + 1, Triple::alive);
    }
    EXPECT_EQ(before + 1, Triple::alive);
