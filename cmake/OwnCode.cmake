@@ -2,6 +2,10 @@
 
 find_package(Threads REQUIRED)
 
+if(TARN_HARDEN AND NOT APPLE)
+   add_link_options(-Wl,-z,relro,-z,now)
+endif()
+
 function(tarn_own_code target)
    set_target_properties(${target} PROPERTIES
       CXX_STANDARD 14
@@ -21,9 +25,6 @@ function(tarn_own_code target)
       target_compile_options(${target} PRIVATE
          -Wnull-dereference -fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2
          -D_GLIBCXX_ASSERTIONS)
-      if(NOT APPLE)
-         target_link_options(${target} PRIVATE -Wl,-z,relro,-z,now)
-      endif()
    endif()
    if(TARN_SANITIZE)
       target_compile_options(${target} PRIVATE
