@@ -44,12 +44,22 @@ public:
       _position += count;
    }
 
+   // Most values are one number, which is copied without a call.
    void put(void const* source, unsigned long count)
    {
-      if (count != 0) {
-         std::memcpy(getPtr(), source, count);
+      char* const bytes = reserve(count);
+      switch (count) {
+      case 0:
+         break;
+      case 4:
+         std::memcpy(bytes, source, 4);
+         break;
+      case 8:
+         std::memcpy(bytes, source, 8);
+         break;
+      default:
+         std::memcpy(bytes, source, count);
       }
-      _position += count;
    }
 
    char* getPtr()
