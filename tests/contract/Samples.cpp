@@ -148,6 +148,29 @@ Samples<std::set<Handle>> handleSetSamples(Way way)
    return samples;
 }
 
+// 300 entries. On the way in they come from behind, each a second time at the end.
+template <class Handle>
+Sample<std::map<Handle, VariableLengthData>> largeValueMap(Way way)
+{
+   Sample<std::map<Handle, VariableLengthData>> sample;
+   std::vector<Wire> entries;
+   for (int word = 1; word <= 300; ++word) {
+      std::string const value = "value " + std::to_string(word);
+      sample.value[handle<Handle>(word)] = data(value);
+      entries.push_back(integer(word) + block(value));
+   }
+   if (way != Way::OUT) {
+      std::vector<Wire> const ascending = entries;
+      entries.clear();
+      for (int word = 300; word >= 1; --word) {
+         entries.push_back(integer(word) + block("old"));
+      }
+      entries.insert(entries.end(), ascending.begin(), ascending.end());
+   }
+   sample.wire = counted(entries);
+   return sample;
+}
+
 template <class Handle>
 Samples<std::map<Handle, VariableLengthData>> valueMapSamples(Way way)
 {
@@ -159,6 +182,7 @@ Samples<std::map<Handle, VariableLengthData>> valueMapSamples(Way way)
                             {handle<Handle>(0x7FFFFFFF), data(large)}},
          counted({integer(4) + block(""), integer(0x7FFFFFFF) + block(large),
                integer(-1) + block(allBytes())})});
+   samples.push_back(largeValueMap<Handle>(way));
    if (way == Way::OUT) {
       samples.push_back({{{handle<Handle>(0x80000000), data("x")}, {handle<Handle>(-7), data("y")}},
             counted({integer(0x80000000) + block("x"), integer(-7) + block("y")})});

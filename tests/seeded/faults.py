@@ -19,6 +19,8 @@ FAULTS = [
     ("a map's entry declares 4 bytes more", ENCODER_H, [(
         "_entries[_noted++] = &*entry;\n         _size += 8 +",
         "_entries[_noted++] = &*entry;\n         _size += 12 +")]),
+    ("entries that a large map has no room to note are lost", ENCODER_H, [(
+        "      _rest = entry;\n", "      _rest = value.end();\n")]),
     ("a character's low byte first", ENCODER_H, [(
         "static_cast<char>(character >> 8)", "static_cast<char>(character & 0xFF)"), (
         "static_cast<char>(character);", "static_cast<char>(character >> 8);")]),
@@ -111,7 +113,8 @@ FAULTS = [
     ("the last code out of range", DECODER, [("code <= last", "code < last")]),
     ("one code too many", DECODER, [("code <= last", "code <= last + 1")]),
     ("the first of two values for a handle stays", DECODER, [(
-        "return isTaken ? values.erase(place) : place;", "return place;")]),
+        "return isTaken ? values.erase(place) : place;",
+        "static_cast<void>(isTaken);\n   return place;")]),
     ("before and after exchanged in a restore's status", DECODER, [(
         "FederateRestoreStatus(before, after,", "FederateRestoreStatus(after, before,")]),
 
