@@ -4,7 +4,6 @@
 
 #include <RTI/VariableLengthData.h>
 
-#include <cstddef>
 #include <cstring>
 #include <new>
 
@@ -24,7 +23,7 @@ public:
          throw std::bad_alloc();
       }
       VariableLengthDataImplementation* const record =
-            ::new (operator new(room)) VariableLengthDataImplementation;
+            new (::operator new(room)) VariableLengthDataImplementation;
       record->data = record + 1;
       record->size = inSize;
       if (inSize != 0) {
@@ -33,16 +32,10 @@ public:
       return record;
    }
 
-   // A record has more room than its type tells: it is made as an array of char.
-
-   static void* operator new(std::size_t room)
-   {
-      return new char[room];
-   }
-
+   // Without a size, which would be that of a record alone.
    static void operator delete(void* record)
    {
-      delete[] static_cast<char*>(record);
+      ::operator delete(record);
    }
 
    VariableLengthDataImplementation(VariableLengthDataImplementation const&) = delete;
