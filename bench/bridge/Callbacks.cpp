@@ -1,7 +1,8 @@
 // Callbacks fired from a Java loop, each beside a native that does by hand what can't be avoided.
 #include "bench/bridge/Cases.h"
+#include "tests/performance/Frames.h"
+#include <RTI/time/HLAfloat64TimeFactory.h>
 
-#include <cstring>
 #include <map>
 #include <stdexcept>
 #include <vector>
@@ -11,54 +12,6 @@ using namespace rti1516e;
 namespace {
 
 int const fired = 1000; // callbacks a loop in Java
-
-// ---- Frames
-// --------------------------------------------------------------------------------------
-
-class Frame {
-public:
-   explicit Frame(int handle)
-   {
-      add(0x63626160).add(handle);
-   }
-
-   Frame& add(int value)
-   {
-      unsigned const bits = static_cast<unsigned>(value);
-      for (unsigned shift : {24, 16, 8, 0}) {
-         _bytes.push_back(static_cast<char>(bits >> shift));
-      }
-      return *this;
-   }
-
-   Frame& add(std::string const& bytes)
-   {
-      add(static_cast<int>(bytes.size()));
-      _bytes += bytes;
-      return *this;
-   }
-
-   std::string close()
-   {
-      add(0x59585756);
-      return _bytes;
-   }
-
-private:
-   std::string _bytes;
-};
-
-std::string makeReflection(int attributes, std::size_t size)
-{
-   Frame frame(member().handle);
-   frame.add(1).add(attributes);
-   for (int i = 1; i <= attributes; ++i) {
-      frame.add(i).add(std::string(size, 'v'));
-   }
-   int const receiveOrder = 0;
-   int const reliable = 1;
-   return frame.add("tag!").add(receiveOrder).add(reliable).add(1).add(0).add(2).close();
-}
 
 // ---- By hand
 // -------------------------------------------------------------------------------------
@@ -79,7 +32,9 @@ public:
    unsigned long delivered = 0;
 };
 
-Receiver* volatile receiver; // volatile, lest the compiler know whose reflect is called
+// Volatile, lest the compiler know whose functions are called.
+Receiver* volatile receiver;
+FederateAmbassador* volatile grantReceiver;
 
 class Reader {
 public:
@@ -134,17 +89,33 @@ void pinAndRelease(JNIEnv* env, jobject, jbyteArray frame)
    env->ReleasePrimitiveArrayCritical(frame, pinned, 0);
 }
 
+// What the interface asks for besides: the final time, which tells the length, and the time.
+void grantByHand(JNIEnv* env, jobject, jbyteArray frame)
+{
+   static HLAfloat64TimeFactory factory;
+   void* const pinned = env->GetPrimitiveArrayCritical(frame, nullptr);
+   LogicalTimeFactory& made = factory;
+   std::size_t const length = made.makeFinal()->encodedLength();
+   std::auto_ptr<LogicalTime> const time =
+         made.decodeLogicalTime(static_cast<char*>(pinned) + 8, length);
+   env->ReleasePrimitiveArrayCritical(frame, pinned, 0);
+   grantReceiver->timeAdvanceGrant(*time);
+}
+
 void registerByHand()
 {
    JNINativeMethod const methods[] = {
          {const_cast<char*>("reflectAttributeValues"), const_cast<char*>("([B)V"),
                reinterpret_cast<void*>(reflectByHand)},
          {const_cast<char*>("pinAndRelease"), const_cast<char*>("([B)V"),
-               reinterpret_cast<void*>(pinAndRelease)}};
-   if (environment()->RegisterNatives(byHandClass(), methods, 2) != 0) {
+               reinterpret_cast<void*>(pinAndRelease)},
+         {const_cast<char*>("timeAdvanceGrant"), const_cast<char*>("([B)V"),
+               reinterpret_cast<void*>(grantByHand)}};
+   if (environment()->RegisterNatives(byHandClass(), methods, 3) != 0) {
       throw std::runtime_error("Java refuses the natives");
    }
    receiver = new Receiver; // stays with the natives
+   grantReceiver = &member().federate;
 }
 
 // ---- Cases
@@ -169,7 +140,7 @@ void addLoop(std::string const& name, char const* loop, std::string const& frame
 
 void addReflection(std::string const& name, int attributes)
 {
-   std::string const frame = makeReflection(attributes, 8);
+   std::string const frame = performance::makeReflection(member().handle, attributes, 8);
    addLoop(name + "/subject", "fireReflectAttributeValues", frame);
    addLoop(name + "/floor", "fireReflectByHand", frame);
 }
@@ -183,16 +154,11 @@ void addCallbacks()
    addReflection("reflect-10", 10);
    addReflection("reflect-100", 100);
 
-   double const time = 1.5;
-   std::int64_t bits;
-   std::memcpy(&bits, &time, sizeof bits);
-   std::string const grant = Frame(member().handle)
-                                   .add(static_cast<int>(bits >> 32))
-                                   .add(static_cast<int>(bits))
-                                   .close();
-   std::string const saved = Frame(member().handle).close();
+   std::string const grant = performance::makeGrant(member().handle, 1.5);
    addLoop("timeAdvanceGrant/subject", "fireTimeAdvanceGrant", grant);
    addLoop("timeAdvanceGrant/floor", "firePinAndRelease", grant);
+   addLoop("timeAdvanceGrant/least", "fireGrantByHand", grant);
+   std::string const saved = contract::frame(member().handle, contract::Wire());
    addLoop("federationSaved/subject", "fireFederationSaved", saved);
    addLoop("federationSaved/floor", "firePinAndRelease", saved);
 }

@@ -18,17 +18,22 @@ inline jbyteArray makeArray(JNIEnv* env, std::string const& bytes)
    return array;
 }
 
-// `invoke` calls the method with the array.
+// `invoke` calls the method with the array, which is released.
 template <class Invoke>
-void callByHand(
-      JNIEnv* env, JavaMethod const& method, std::string const& bytes, Invoke const& invoke)
+void callWith(JNIEnv* env, JavaMethod const& method, jbyteArray array, Invoke const& invoke)
 {
-   jbyteArray const array = makeArray(env, bytes);
    invoke(env, method, array);
    env->DeleteLocalRef(array);
    if (env->ExceptionOccurred() != nullptr) {
       throw std::runtime_error("an exception in Java");
    }
+}
+
+template <class Invoke>
+void callByHand(
+      JNIEnv* env, JavaMethod const& method, std::string const& bytes, Invoke const& invoke)
+{
+   callWith(env, method, makeArray(env, bytes), invoke);
 }
 
 // The ways to invoke, by the method's result. Results are looked at, so that they are fetched.

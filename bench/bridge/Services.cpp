@@ -11,6 +11,7 @@ using namespace rti1516e;
 namespace {
 
 char const updateMethod[] = "updateAttributeValues_OIH_AHVM_BX";
+char const timedUpdateMethod[] = "updateAttributeValues_OIH_AHVM_BX_LT";
 
 // `bytes` are what Java gets at a call.
 template <class Call>
@@ -52,6 +53,49 @@ void addUpdate(std::string const& name, int attributes, std::size_t size)
    compare(name, updateMethod, "([B)V", Update(values), invokeVoid);
 }
 
+// ---- The floor, and besides by hand what the interface asks for
+// ----------------------------------
+
+// The values come out of a map: one way through it, without a look at a value.
+void addLeastUpdate(std::string const& name, int attributes, std::size_t size)
+{
+   AttributeHandleValueMap const values = makeValues(attributes, size);
+   Update const update(values);
+   std::string const bytes = recordBody(updateMethod, [&] { update(*member().ambassador); });
+   JavaMethod const method = findService(updateMethod, "([B)V");
+   benchmark::RegisterBenchmark((name + "/least").c_str(), [=](benchmark::State& state) {
+      JNIEnv* const env = environment();
+      for (auto _ : state) {
+         for (auto const& entry : values) {
+            benchmark::DoNotOptimize(entry.first.hash());
+         }
+         callByHand(env, method, bytes, invokeVoid);
+      }
+   });
+}
+
+// The time is encoded, and a retraction handle is made.
+void addLeastTimedUpdate(std::string const& name, int attributes, std::size_t size)
+{
+   AttributeHandleValueMap const values = makeValues(attributes, size);
+   Update const update(values);
+   std::string const untimed = recordBody(updateMethod, [&] { update(*member().ambassador); });
+   std::string const bytes(untimed.size() + 8, '\0');
+   JavaMethod const method = findService(timedUpdateMethod, "([B)[B");
+   benchmark::RegisterBenchmark((name + "/least").c_str(), [=](benchmark::State& state) {
+      JNIEnv* const env = environment();
+      HLAfloat64Time const theTime(1.5);
+      LogicalTime const* volatile const time = &theTime;
+      for (auto _ : state) {
+         VariableLengthData const encoded = time->encode();
+         benchmark::DoNotOptimize(encoded.data());
+         callByHand(env, method, bytes, invokeObject);
+         MessageRetractionHandle const handle;
+         benchmark::DoNotOptimize(&handle);
+      }
+   });
+}
+
 void addTimedUpdate(std::string const& name, int attributes, std::size_t size)
 {
    AttributeHandleValueMap const values = makeValues(attributes, size);
@@ -61,7 +105,7 @@ void addTimedUpdate(std::string const& name, int attributes, std::size_t size)
       static HLAfloat64Time const time(1.5);
       benchmark::DoNotOptimize(ambassador.updateAttributeValues(object, values, tag, time));
    };
-   compare(name, "updateAttributeValues_OIH_AHVM_BX_LT", "([B)[B", update, invokeObject);
+   compare(name, timedUpdateMethod, "([B)[B", update, invokeObject);
 }
 
 // ---- The way that bindings are usually written: an array for each value ------------------------
@@ -207,10 +251,12 @@ void addServices()
 {
    addUpdate("update-1x8", 1, 8);
    addUpdate("update-10x64", 10, 64);
+   addLeastUpdate("update-10x64", 10, 64);
    addUsualUpdate("update-10x64", 10, 64);
    addUpdate("update-1x64K", 1, 64 * 1024);
    addUpdate("update-1x1M", 1, 1024 * 1024);
    addTimedUpdate("timed-update-1x8", 1, 8);
+   addLeastTimedUpdate("timed-update-1x8", 1, 8);
    addTimedUpdate("timed-update-10x64", 10, 64);
    addSmallServices();
    addFailure("fails-on-first-rung", "AttributeNotOwned");

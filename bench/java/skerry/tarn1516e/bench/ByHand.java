@@ -15,6 +15,9 @@ public final class ByHand {
    /** Pins the frame and releases it. */
    public native void pinAndRelease(byte[] frame);
 
+   /** Makes the times that a grant needs, and makes a virtual call. */
+   public native void timeAdvanceGrant(byte[] frame);
+
    /** The Java end of a binding with an array for each value. */
    public void updateAttributeValues(int object, int[] attributes, byte[][] values, byte[] tag) {}
 
@@ -42,6 +45,12 @@ public final class ByHand {
    public static void fireReflectByHand(byte[] frame, int times) {
       for (int i = 0; i < times; ++i) {
          BY_HAND.reflectAttributeValues(frame);
+      }
+   }
+
+   public static void fireGrantByHand(byte[] frame, int times) {
+      for (int i = 0; i < times; ++i) {
+         BY_HAND.timeAdvanceGrant(frame);
       }
    }
 
