@@ -62,9 +62,9 @@ bool returnBoolean(JNIEnv*, int value)
    return value != 0;
 }
 
-long returnLong(JNIEnv*, long value)
+unsigned long returnLong(JNIEnv*, long value)
 {
-   return value;
+   return static_cast<unsigned long>(value);
 }
 
 double returnDouble(JNIEnv*, double value)

@@ -484,7 +484,7 @@ class CppWrapper<rti1516e::MessageRetractionHandle>
 // Each releases the local reference of an object that it is given.
 
 bool returnBoolean(JNIEnv*, int value);
-long returnLong(JNIEnv*, long value);
+unsigned long returnLong(JNIEnv*, long value); // the same 64 bits
 double returnDouble(JNIEnv*, double value);
 std::wstring returnString(JNIEnv* env, jstring text);
 
