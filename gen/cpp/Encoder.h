@@ -373,7 +373,7 @@ public:
 private:
    typedef typename Values::value_type Entry;
 
-   static int const room = 128;
+   static int const room = 1024;
 
    static void putEntry(rti1516e::ByteWrapper& buffer, Entry const& entry)
    {
