@@ -269,7 +269,7 @@ TEST(Result, OfAScalar)
    RTI_FOR_EACH_HANDLE(RESULT_HANDLE_ROW)
    EXPECT_TRUE(returnBoolean(nullptr, 1));
    EXPECT_FALSE(returnBoolean(nullptr, 0));
-   EXPECT_EQ(-5000000000, returnLong(nullptr, -5000000000));
+   EXPECT_EQ(0xFFFFFFFED5FA0E00, returnLong(nullptr, -5000000000));
    EXPECT_EQ(0.1, returnDouble(nullptr, 0.1));
 }
 
