@@ -68,6 +68,16 @@ void addObjects(int attributes)
       }
       countBytes(state, bytes);
    });
+   // The values come out of a map.
+   benchmark::RegisterBenchmark((name + "/least").c_str(), [=](benchmark::State& state) {
+      JNIEnv* const env = environment();
+      for (auto _ : state) {
+         for (auto const& entry : values) {
+            benchmark::DoNotOptimize(entry.first.hash());
+         }
+         callByHand(env, method, bytes, invokeVoid);
+      }
+   });
 }
 
 } // namespace

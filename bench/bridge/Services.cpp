@@ -236,6 +236,20 @@ void addFailure(std::string const& name, std::string const& exception)
    });
 }
 
+// How each service gets its environment.
+void addAttach()
+{
+   benchmark::RegisterBenchmark("AttachCurrentThread/subject", [](benchmark::State& state) {
+      JavaVM* vm = nullptr;
+      environment()->GetJavaVM(&vm);
+      for (auto _ : state) {
+         void* env = nullptr;
+         vm->AttachCurrentThread(&env, nullptr);
+         benchmark::DoNotOptimize(env);
+      }
+   });
+}
+
 void addCreate()
 {
    benchmark::RegisterBenchmark("createRTIambassador/subject", [](benchmark::State& state) {
@@ -261,5 +275,6 @@ void addServices()
    addSmallServices();
    addFailure("fails-on-first-rung", "AttributeNotOwned");
    addFailure("fails-on-last-rung", "RTIinternalError");
+   addAttach();
    addCreate();
 }
