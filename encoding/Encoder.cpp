@@ -136,8 +136,9 @@ void decodeHLAunicodeString(void const* buffer, unsigned long length, std::wstri
    unsigned long const whole = std::min(count, bytes / 2);
    char const* const in = charactersIn(buffer);
    value.resize(whole);
+   wchar_t* const out = &value[0];
    for (unsigned long i = 0; i < whole; ++i) {
-      value[i] = decodeHLAunicodeChar(in + 2 * i, 2);
+      out[i] = decodeHLAunicodeChar(in + 2 * i, 2);
    }
    value.resize(count);
    if (whole < count && bytes % 2 != 0) {
