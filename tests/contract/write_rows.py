@@ -9,7 +9,7 @@ import sys
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent.parent
-sys.path.insert(0, str(ROOT / "gen"))
+sys.path.insert(0, str(ROOT / "gen/generator"))
 import rows  # noqa: E402
 
 HEAD = """// Written by tests/contract/write_rows.py.

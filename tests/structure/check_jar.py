@@ -9,7 +9,7 @@ import sys
 import zipfile
 from pathlib import Path
 
-sys.path.insert(0, str(Path(__file__).resolve().parent.parent.parent / "gen"))
+sys.path.insert(0, str(Path(__file__).resolve().parent.parent.parent / "gen/generator"))
 import rows  # noqa: E402
 
 JNI_TYPES = {"void": "V", "boolean": "Z", "int": "I", "long": "J", "double": "D",

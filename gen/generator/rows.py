@@ -4,8 +4,9 @@ import re
 from collections import namedtuple
 from pathlib import Path
 
-HERE = Path(__file__).parent
-EXCEPTION_HEADER = HERE.parent / "api" / "RTI" / "Exception.h"
+ROOT = Path(__file__).resolve().parent.parent.parent
+ROWS = ROOT / "gen" / "rows"
+EXCEPTION_HEADER = ROOT / "api" / "RTI" / "Exception.h"
 
 # One argument type. `name`: the letters in Java names. `parameter`: the C++ parameter of a
 # service. `decoder`: the class that reads it in a callback, or None.
@@ -162,7 +163,7 @@ def _fields(text):
     return fields
 
 
-def read_services(path=HERE / "services.rows"):
+def read_services(path=ROWS / "services.rows"):
     """The services in order, and the tails by name."""
     services, tails = [], {}
     row = re.compile(r"service (\w+) ?(.*?)(?: ?-> (\S+))?(?: then (\w+))?$")
@@ -179,7 +180,7 @@ def read_services(path=HERE / "services.rows"):
     return services, tails
 
 
-def read_callbacks(path=HERE / "callbacks.rows"):
+def read_callbacks(path=ROWS / "callbacks.rows"):
     """The callbacks in the order of the native method table."""
     row = re.compile(r"callback (\w+) ?(.*)$")
     return [

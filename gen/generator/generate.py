@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Writes everything that follows from the rows: gen/cpp_generated and standin/generated.
 
-   gen/generate.py           writes the files and removes those that no row asks for any more
-   gen/generate.py --check   only compares; tells each file that differs and exits with 1
+   generate.py           writes the files and removes those that no row asks for any more
+   generate.py --check   only compares; tells each file that differs and exits with 1
 """
 
 import sys
@@ -12,7 +12,7 @@ import cpp_writer
 import java_writer
 import rows
 
-ROOT = Path(__file__).resolve().parent.parent
+ROOT = Path(__file__).resolve().parent.parent.parent
 FOLDERS = ("gen/cpp_generated", "standin/generated")
 
 
@@ -42,7 +42,7 @@ def main():
     paths = differing(texts)
     if "--check" in sys.argv[1:]:
         for path in paths:
-            print(f"{path}: not as gen/generate.py writes it")
+            print(f"{path}: not as gen/generator/generate.py writes it")
         sys.exit(1 if paths else 0)
     for path in paths:
         target = ROOT / path
