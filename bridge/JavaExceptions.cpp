@@ -1,4 +1,6 @@
-#include "bridge/JavaExceptions.h"
+// How an exception of one side is raised on the other; the two frames below know only what is
+// declared with them.
+#include "gen/cpp/JavaExceptions.h"
 
 #include "jvm/JavaString.h"
 #include "jvm/Text.h"

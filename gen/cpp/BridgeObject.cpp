@@ -1,8 +1,8 @@
 // The life of the bridge object, and the results that need its time factory. The services are
 // generated.
-#include "bridge/JavaExceptions.h"
 #include "gen/cpp/CallbackFrame.h"
 #include "gen/cpp/Encoder.h"
+#include "gen/cpp/JavaExceptions.h"
 #include "gen/cpp/ServiceFrame.h"
 #include "gen/cpp_generated/RTIambassadorC.h"
 #include "jvm/FpuGuards.h"
@@ -148,16 +148,6 @@ TimeQueryReturn RTIambassadorC::returnTimeQueryReturn(JNIEnv* env, jbyteArray en
       return TimeQueryReturn(false, nullptr);
    }
    return TimeQueryReturn(true, returnLogicalTime(env, encoded));
-}
-
-jmethodID bind(JNIEnv* env, jclass type, char const* name, char const* signature)
-{
-   jmethodID const id = env->GetMethodID(type, name, signature);
-   if (id == nullptr) {
-      std::fprintf(stderr, "Cannot locate %s.\n", name);
-   }
-   TARN_ASSERT(id != 0);
-   return id;
 }
 
 } // namespace tarn1516e

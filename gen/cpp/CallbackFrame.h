@@ -8,9 +8,9 @@
 #ifndef gen_CallbackFrame_h
 #define gen_CallbackFrame_h
 
-#include "bridge/JavaExceptions.h"
 #include "gen/cpp/ByteWrapper.h"
 #include "gen/cpp/FederateAmbassadorHelper.h"
+#include "gen/cpp/JavaExceptions.h"
 #include "jvm/Assert.h"
 #include "jvm/FpuGuards.h"
 

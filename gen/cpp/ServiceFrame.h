@@ -27,10 +27,6 @@ jbyteArray encodeBody(JNIEnv* env, Wrappers const&... wrappers)
    return body;
 }
 
-// The identifier of a Java method. A class without it does not belong to this library: the process
-// ends.
-jmethodID bind(JNIEnv* env, jclass type, char const* name, char const* signature);
-
 } // namespace tarn1516e
 
 #endif

@@ -297,7 +297,7 @@ public:
    virtual std::wstring getTimeFactory();
 
    // Throws; `which` names the classes that Java can't find.
-   virtual void reportClassLoadingError(JNIEnv* env, std::wstring const& which);
+   [[noreturn]] virtual void reportClassLoadingError(JNIEnv* env, std::wstring const& which);
 
 private:
    RTIambassadorC(RTIambassadorC const&) = delete;

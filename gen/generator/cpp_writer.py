@@ -89,7 +89,7 @@ public:
 
 HEADER_END = """
    // Throws; `which` names the classes that Java can't find.
-   virtual void reportClassLoadingError(JNIEnv* env, std::wstring const& which);
+   [[noreturn]] virtual void reportClassLoadingError(JNIEnv* env, std::wstring const& which);
 
 private:
    RTIambassadorC(RTIambassadorC const&) = delete;
@@ -135,9 +135,10 @@ def _header(services):
 SOURCE = """
 #include "gen/cpp_generated/RTIambassadorC.h"
 
-#include "bridge/JavaExceptions.h"
 #include "gen/cpp/Encoder.h"
 #include "gen/cpp/HandleTable.h"
+#include "gen/cpp/JavaExceptions.h"
+#include "gen/cpp/JavaMethod.h"
 #include "gen/cpp/ServiceFrame.h"
 #include "jvm/FpuGuards.h"
 #include "jvm/JVM.h"

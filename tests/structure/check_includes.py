@@ -7,8 +7,7 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent.parent
 
-# What each room may include besides itself and the public headers. The translation of Java
-# exceptions is part of the bridge, but knows nothing of it; both frames use it.
+# What each room may include besides itself and the public headers.
 MAY_INCLUDE = {
     "api": (),
     "runtime": ("api/",),
@@ -16,11 +15,10 @@ MAY_INCLUDE = {
     "time": ("api/", "encoding/Encoder.h"),
     "jvm": ("api/",),
     "fedtime": ("api/",),
-    "gen": ("api/", "jvm/", "bridge/JavaExceptions.h"),
+    "gen": ("api/", "jvm/"),
     "bridge": ("api/", "jvm/", "gen/"),
     "tools": ("api/", "jvm/Platform.h"),
 }
-EXCEPTIONS = {"bridge/JavaExceptions": ("jvm/",)}
 JNI_ROOMS = ("jvm", "gen", "bridge", "tools")
 
 
@@ -28,9 +26,6 @@ def faults(path):
     name = str(path.relative_to(ROOT))
     room = name.split("/")[0]
     may = MAY_INCLUDE[room]
-    for prefix, narrower in EXCEPTIONS.items():
-        if name.startswith(prefix):
-            room, may = prefix, narrower
     public = name.startswith(("api/RTI/", "api/tarn1516e/"))
     for line in path.read_text().splitlines():
         match = re.match(r'#include ([<"])([^>"]+)[>"]', line)

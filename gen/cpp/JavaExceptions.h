@@ -1,7 +1,7 @@
 // Exceptions across the border, both ways: what Java raised becomes the rti1516e exception of the
 // same name, what a federate's callback raised becomes a Java exception.
-#ifndef bridge_JavaExceptions_h
-#define bridge_JavaExceptions_h
+#ifndef gen_JavaExceptions_h
+#define gen_JavaExceptions_h
 
 #include <RTI/Exception.h>
 

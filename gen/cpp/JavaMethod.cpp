@@ -1,0 +1,20 @@
+// How the identifiers of Java methods are found.
+#include "gen/cpp/JavaMethod.h"
+
+#include "jvm/Assert.h"
+
+#include <cstdio>
+
+namespace tarn1516e {
+
+jmethodID bind(JNIEnv* env, jclass type, char const* name, char const* signature)
+{
+   jmethodID const id = env->GetMethodID(type, name, signature);
+   if (id == nullptr) {
+      std::fprintf(stderr, "Cannot locate %s.\n", name);
+   }
+   TARN_ASSERT(id != 0);
+   return id;
+}
+
+} // namespace tarn1516e
