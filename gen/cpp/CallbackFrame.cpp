@@ -1,3 +1,4 @@
+// How callbacks treat exceptions, for the whole process.
 #include "gen/cpp/CallbackFrame.h"
 
 namespace tarn1516e {

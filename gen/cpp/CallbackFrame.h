@@ -32,8 +32,8 @@ int const POST_MAGIC = 0x59585756;
 extern int catchAll;
 extern char const* const javaFederateInternalErrorClass;
 
-// The array of one callback. Between open and close it is pinned and the VM must not be called; a
-// failure in between leaves it so.
+// The array of one callback. From construction to close it is pinned and the VM must not be called;
+// a failure in between leaves it so.
 class CallbackFrame {
 public:
    CallbackFrame(JNIEnv* env, jbyteArray array)
@@ -78,47 +78,46 @@ private:
    rti1516e::ByteWrapper _buffer;
 };
 
+// Calls the federate. What it throws of the kinds that have a text becomes a pending Java
+// FederateInternalError with that text. `hasText` is set before the text is asked for: what fails
+// from there on is not the federate's exception any more.
 template <class Operation>
-void callFederate(FederateAmbassadorHelper* helper, Operation const& operation)
+inline __attribute__((always_inline)) void callFederate(
+      JNIEnv* env, FederateAmbassadorHelper* helper, Operation const& operation, bool& hasText)
 {
-   EnsureFPU ensureFPU(helper->fpuState);
-   operation(*helper->federateAmbassador);
+   char const* const type = javaFederateInternalErrorClass;
+   try {
+      EnsureFPU ensureFPU(helper->fpuState);
+      operation(*helper->federateAmbassador);
+   } catch (rti1516e::Exception const& e) {
+      hasText = true;
+      throwJava(env, type, e.what());
+   } catch (std::exception const& e) {
+      hasText = true;
+      throwJava(env, type, e.what());
+   } catch (std::string const& e) {
+      hasText = true;
+      throwJava(env, type, e.c_str());
+   }
 }
 
-// Calls the federate. What it throws becomes a pending Java FederateInternalError, with the text of
-// the four kinds of exception that have one. Anything else is caught only when catchAll is set;
-// otherwise it leaves the native and enters the VM's frames. The two blocks differ in that clause
-// alone, and are two because an exception that is not to be caught must find no handler here.
+// Anything without a text is caught only when catchAll is set; otherwise it must find no handler
+// here, leaves the native and enters the VM's frames.
 template <class Operation>
 void deliver(JNIEnv* env, FederateAmbassadorHelper* helper, Operation const& operation)
 {
-   char const* const type = javaFederateInternalErrorClass;
-   if (catchAll) {
-      try {
-         callFederate(helper, operation);
-      } catch (rti1516e::FederateInternalError const& e) {
-         throwJava(env, type, e.what());
-      } catch (rti1516e::Exception const& e) {
-         throwJava(env, type, e.what());
-      } catch (std::exception const& e) {
-         throwJava(env, type, e.what());
-      } catch (std::string const& e) {
-         throwJava(env, type, e.c_str());
-      } catch (...) {
-         throwJava(env, type, "Unknown C++ exception");
+   bool hasText = false;
+   if (!catchAll) {
+      callFederate(env, helper, operation, hasText);
+      return;
+   }
+   try {
+      callFederate(env, helper, operation, hasText);
+   } catch (...) {
+      if (hasText) {
+         throw;
       }
-   } else {
-      try {
-         callFederate(helper, operation);
-      } catch (rti1516e::FederateInternalError const& e) {
-         throwJava(env, type, e.what());
-      } catch (rti1516e::Exception const& e) {
-         throwJava(env, type, e.what());
-      } catch (std::exception const& e) {
-         throwJava(env, type, e.what());
-      } catch (std::string const& e) {
-         throwJava(env, type, e.c_str());
-      }
+      throwJava(env, javaFederateInternalErrorClass, "Unknown C++ exception");
    }
 }
 
