@@ -37,6 +37,12 @@ namespace rti1516e {
    inline A make##A(VariableLengthData const& encodedValue)                                        \
    {                                                                                               \
       return A##Friend::makeHandle(encodedValue);                                                  \
+   }                                                                                               \
+                                                                                                   \
+   /* The integer that Java knows the handle by. */                                                \
+   inline int handleValue(A const& handle)                                                         \
+   {                                                                                               \
+      return static_cast<int>(reinterpret_cast<long>(A##Friend::getImplementation(handle)));       \
    }
 
 RTI_FOR_EACH_HANDLE(DECLARE_HANDLE_FRIEND)

@@ -1,3 +1,4 @@
+// Readers of the fields that callbacks carry.
 #include "gen/cpp/Decoder.h"
 
 #include "jvm/Assert.h"
@@ -45,13 +46,15 @@ Block readBlock(ByteWrapper& buffer)
    return {buffer.reserve(size), size};
 }
 
-template <class Handle>
-void readHandleSet(ByteWrapper& buffer, Handle (*makeHandle)(int), std::set<Handle>& handles)
+template <class Handle, Handle (*makeHandle)(int)>
+std::set<Handle> readHandleSet(ByteWrapper& buffer)
 {
+   std::set<Handle> handles;
    int const count = buffer.getInt();
    for (int i = 0; i < count; ++i) {
       handles.insert(makeHandle(buffer.getInt()));
    }
+   return handles;
 }
 
 // Where a handle's value is to go; what the handle had is dropped. As a rule handles ascend, and
@@ -69,10 +72,10 @@ typename Values::iterator makePlace(Values& values, typename Values::key_type co
 
 // The last of several values for one handle stays. Values are made where they stay, so that each is
 // allocated once, and nothing half made is left behind when memory ends.
-template <class Handle>
-void readValueMap(
-      ByteWrapper& buffer, Handle (*makeHandle)(int), std::map<Handle, VariableLengthData>& values)
+template <class Handle, Handle (*makeHandle)(int)>
+std::map<Handle, VariableLengthData> readValueMap(ByteWrapper& buffer)
 {
+   std::map<Handle, VariableLengthData> values;
    int const count = buffer.getInt();
    for (int i = 0; i < count; ++i) {
       Handle const handle = makeHandle(buffer.getInt());
@@ -84,6 +87,7 @@ void readValueMap(
          values[handle].setDataPointer(block.bytes, block.size);
       }
    }
+   return values;
 }
 
 } // namespace
@@ -177,138 +181,118 @@ VariableLengthData decodeTag(ByteWrapper& buffer)
    return tag;
 }
 
-FederateHandle decodeFederateHandle(ByteWrapper& buffer)
-{
-   return makeFederateHandle(buffer.getInt());
-}
-
-ObjectClassHandle decodeObjectClassHandle(ByteWrapper& buffer)
-{
-   return makeObjectClassHandle(buffer.getInt());
-}
-
-InteractionClassHandle decodeInteractionClassHandle(ByteWrapper& buffer)
-{
-   return makeInteractionClassHandle(buffer.getInt());
-}
-
-ObjectInstanceHandle decodeObjectInstanceHandle(ByteWrapper& buffer)
-{
-   return makeObjectInstanceHandle(buffer.getInt());
-}
-
-AttributeHandle decodeAttributeHandle(ByteWrapper& buffer)
-{
-   return makeAttributeHandle(buffer.getInt());
-}
-
 MessageRetractionHandle decodeMessageRetractionHandle(ByteWrapper& buffer)
 {
    return makeMessageRetractionHandle(buffer);
 }
 
+FederateHandleSet decodeFederateHandleSet(ByteWrapper& buffer)
+{
+   return readHandleSet<FederateHandle, makeFederateHandle>(buffer);
+}
+
+AttributeHandleSet decodeAttributeHandleSet(ByteWrapper& buffer)
+{
+   return readHandleSet<AttributeHandle, makeAttributeHandle>(buffer);
+}
+
 RegionHandleSet decodeRegionHandleSet(ByteWrapper& buffer)
 {
-   RegionHandleSet regions;
-   readHandleSet(buffer, makeRegionHandle, regions);
-   return regions;
+   return readHandleSet<RegionHandle, makeRegionHandle>(buffer);
 }
 
-JavaFederateHandleSet::JavaFederateHandleSet(FederateAmbassadorHelper*, ByteWrapper& buffer)
+std::set<std::wstring> decodeSetOfString(ByteWrapper& buffer)
 {
-   readHandleSet(buffer, makeFederateHandle, _value);
-}
-
-JavaAttributeHandleSet::JavaAttributeHandleSet(FederateAmbassadorHelper*, ByteWrapper& buffer)
-{
-   readHandleSet(buffer, makeAttributeHandle, _value);
-}
-
-JavaSetOfString::JavaSetOfString(FederateAmbassadorHelper*, ByteWrapper& buffer)
-{
+   std::set<std::wstring> strings;
    int const count = buffer.getInt();
    for (int i = 0; i < count; ++i) {
-      _value.insert(decodeString(buffer));
+      strings.insert(decodeString(buffer));
    }
+   return strings;
 }
 
-JavaAttributeHandleValueMap::JavaAttributeHandleValueMap(
-      FederateAmbassadorHelper*, ByteWrapper& buffer)
+AttributeHandleValueMap decodeAttributeHandleValueMap(ByteWrapper& buffer)
 {
-   readValueMap(buffer, makeAttributeHandle, _value);
+   return readValueMap<AttributeHandle, makeAttributeHandle>(buffer);
 }
 
-JavaParameterHandleValueMap::JavaParameterHandleValueMap(
-      FederateAmbassadorHelper*, ByteWrapper& buffer)
+ParameterHandleValueMap decodeParameterHandleValueMap(ByteWrapper& buffer)
 {
-   readValueMap(buffer, makeParameterHandle, _value);
+   return readValueMap<ParameterHandle, makeParameterHandle>(buffer);
 }
 
-JavaFederateHandleSaveStatusPairArray::JavaFederateHandleSaveStatusPairArray(
-      FederateAmbassadorHelper*, ByteWrapper& buffer)
+FederateHandleSaveStatusPairVector decodeSaveStatusPairs(ByteWrapper& buffer)
 {
+   FederateHandleSaveStatusPairVector statuses;
    int const count = buffer.getInt();
    for (int i = 0; i < count; ++i) {
       FederateHandle const federate = decodeFederateHandle(buffer);
-      _value.push_back(FederateHandleSaveStatusPair(federate, decodeSaveStatus(buffer.getInt())));
+      statuses.push_back(FederateHandleSaveStatusPair(federate, decodeSaveStatus(buffer.getInt())));
    }
+   return statuses;
 }
 
-JavaFederateRestoreStatusArray::JavaFederateRestoreStatusArray(
-      FederateAmbassadorHelper*, ByteWrapper& buffer)
+FederateRestoreStatusVector decodeRestoreStatuses(ByteWrapper& buffer)
 {
+   FederateRestoreStatusVector statuses;
    int const count = buffer.getInt();
    for (int i = 0; i < count; ++i) {
       FederateHandle const before = decodeFederateHandle(buffer);
       FederateHandle const after = decodeFederateHandle(buffer);
-      _value.push_back(FederateRestoreStatus(before, after, decodeRestoreStatus(buffer.getInt())));
+      statuses.push_back(
+            FederateRestoreStatus(before, after, decodeRestoreStatus(buffer.getInt())));
    }
+   return statuses;
 }
 
-JavaFederationExecutionInformationSet::JavaFederationExecutionInformationSet(
-      FederateAmbassadorHelper*, ByteWrapper& buffer)
+FederationExecutionInformationVector decodeFederationExecutions(ByteWrapper& buffer)
 {
+   FederationExecutionInformationVector executions;
    int const count = buffer.getInt();
    for (int i = 0; i < count; ++i) {
       std::wstring const name = decodeString(buffer);
-      _value.push_back(FederationExecutionInformation(name, decodeString(buffer)));
+      executions.push_back(FederationExecutionInformation(name, decodeString(buffer)));
    }
+   return executions;
 }
 
 // The record's hasSentRegions stays false, whatever the wire says: a federate looks at sentRegions.
-JavaSupplementalReflectInfo::JavaSupplementalReflectInfo(
-      FederateAmbassadorHelper*, ByteWrapper& buffer)
+SupplementalReflectInfo decodeReflectInfo(ByteWrapper& buffer)
 {
-   _value.hasProducingFederate = buffer.getInt() != 0;
+   SupplementalReflectInfo info;
+   info.hasProducingFederate = buffer.getInt() != 0;
    bool const hasSentRegions = buffer.getInt() != 0;
-   if (_value.hasProducingFederate) {
-      _value.producingFederate = decodeFederateHandle(buffer);
+   if (info.hasProducingFederate) {
+      info.producingFederate = decodeFederateHandle(buffer);
    }
    if (hasSentRegions) {
-      _value.sentRegions = decodeRegionHandleSet(buffer);
+      info.sentRegions = decodeRegionHandleSet(buffer);
    }
+   return info;
 }
 
-JavaSupplementalReceiveInfo::JavaSupplementalReceiveInfo(
-      FederateAmbassadorHelper*, ByteWrapper& buffer)
+SupplementalReceiveInfo decodeReceiveInfo(ByteWrapper& buffer)
 {
-   _value.hasProducingFederate = buffer.getInt() != 0;
-   _value.hasSentRegions = buffer.getInt() != 0;
-   if (_value.hasProducingFederate) {
-      _value.producingFederate = decodeFederateHandle(buffer);
+   SupplementalReceiveInfo info;
+   info.hasProducingFederate = buffer.getInt() != 0;
+   info.hasSentRegions = buffer.getInt() != 0;
+   if (info.hasProducingFederate) {
+      info.producingFederate = decodeFederateHandle(buffer);
    }
-   if (_value.hasSentRegions) {
-      _value.sentRegions = decodeRegionHandleSet(buffer);
+   if (info.hasSentRegions) {
+      info.sentRegions = decodeRegionHandleSet(buffer);
    }
+   return info;
 }
 
-JavaSupplementalRemoveInfo::JavaSupplementalRemoveInfo(
-      FederateAmbassadorHelper*, ByteWrapper& buffer)
+SupplementalRemoveInfo decodeRemoveInfo(ByteWrapper& buffer)
 {
-   _value.hasProducingFederate = buffer.getInt() != 0;
-   if (_value.hasProducingFederate) {
-      _value.producingFederate = decodeFederateHandle(buffer);
+   SupplementalRemoveInfo info;
+   info.hasProducingFederate = buffer.getInt() != 0;
+   if (info.hasProducingFederate) {
+      info.producingFederate = decodeFederateHandle(buffer);
    }
+   return info;
 }
 
 } // namespace tarn1516e

@@ -10,8 +10,9 @@
 //    FASRI            two flags, then what they announce: producing federate (FH), sent regions
 //                     (RHS); for a removal only the first flag and the federate
 //
-// A flag is true when it is not 0. A count of 0 or below is no element. Nothing is bounded by the
-// array's length; nothing refers to the array afterwards. No decoder may call the VM.
+// A flag is true when it is not 0. A count of 0 or below is no element; a string's or a block's is
+// more than the memory there is. Nothing is bounded by the array's length; nothing refers to the
+// array afterwards. No decoder may call the VM.
 #ifndef gen_Decoder_h
 #define gen_Decoder_h
 
@@ -48,98 +49,123 @@ rti1516e::TransportationType decodeTransportationType(int code);
 // One field each, at the cursor.
 std::wstring decodeString(rti1516e::ByteWrapper& buffer);
 rti1516e::VariableLengthData decodeTag(rti1516e::ByteWrapper& buffer);
-rti1516e::FederateHandle decodeFederateHandle(rti1516e::ByteWrapper& buffer);
-rti1516e::ObjectClassHandle decodeObjectClassHandle(rti1516e::ByteWrapper& buffer);
-rti1516e::InteractionClassHandle decodeInteractionClassHandle(rti1516e::ByteWrapper& buffer);
-rti1516e::ObjectInstanceHandle decodeObjectInstanceHandle(rti1516e::ByteWrapper& buffer);
-rti1516e::AttributeHandle decodeAttributeHandle(rti1516e::ByteWrapper& buffer);
 rti1516e::MessageRetractionHandle decodeMessageRetractionHandle(rti1516e::ByteWrapper& buffer);
+rti1516e::FederateHandleSet decodeFederateHandleSet(rti1516e::ByteWrapper& buffer);
+rti1516e::AttributeHandleSet decodeAttributeHandleSet(rti1516e::ByteWrapper& buffer);
 rti1516e::RegionHandleSet decodeRegionHandleSet(rti1516e::ByteWrapper& buffer);
+std::set<std::wstring> decodeSetOfString(rti1516e::ByteWrapper& buffer);
+rti1516e::AttributeHandleValueMap decodeAttributeHandleValueMap(rti1516e::ByteWrapper& buffer);
+rti1516e::ParameterHandleValueMap decodeParameterHandleValueMap(rti1516e::ByteWrapper& buffer);
+rti1516e::FederateHandleSaveStatusPairVector decodeSaveStatusPairs(rti1516e::ByteWrapper& buffer);
+rti1516e::FederateRestoreStatusVector decodeRestoreStatuses(rti1516e::ByteWrapper& buffer);
+rti1516e::FederationExecutionInformationVector decodeFederationExecutions(
+      rti1516e::ByteWrapper& buffer);
+rti1516e::SupplementalReflectInfo decodeReflectInfo(rti1516e::ByteWrapper& buffer);
+rti1516e::SupplementalReceiveInfo decodeReceiveInfo(rti1516e::ByteWrapper& buffer);
+rti1516e::SupplementalRemoveInfo decodeRemoveInfo(rti1516e::ByteWrapper& buffer);
 
-// What every decoder is, but for JavaLogicalTime.
-template <class Value>
-class JavaValue {
+inline rti1516e::FederateHandle decodeFederateHandle(rti1516e::ByteWrapper& buffer)
+{
+   return rti1516e::makeFederateHandle(buffer.getInt());
+}
+
+inline rti1516e::ObjectClassHandle decodeObjectClassHandle(rti1516e::ByteWrapper& buffer)
+{
+   return rti1516e::makeObjectClassHandle(buffer.getInt());
+}
+
+inline rti1516e::InteractionClassHandle decodeInteractionClassHandle(rti1516e::ByteWrapper& buffer)
+{
+   return rti1516e::makeInteractionClassHandle(buffer.getInt());
+}
+
+inline rti1516e::ObjectInstanceHandle decodeObjectInstanceHandle(rti1516e::ByteWrapper& buffer)
+{
+   return rti1516e::makeObjectInstanceHandle(buffer.getInt());
+}
+
+inline rti1516e::AttributeHandle decodeAttributeHandle(rti1516e::ByteWrapper& buffer)
+{
+   return rti1516e::makeAttributeHandle(buffer.getInt());
+}
+
+// A field that needs nothing but its bytes.
+template <class Value, Value (*decode)(rti1516e::ByteWrapper&)>
+class JavaField {
 public:
+   JavaField(FederateAmbassadorHelper*, rti1516e::ByteWrapper& buffer) : _value(decode(buffer)) {}
+
    operator Value const&() const
    {
       return _value;
    }
 
-protected:
-   JavaValue() {}
+private:
+   JavaField(JavaField const&) = delete;
+   JavaField& operator=(JavaField const&) = delete;
 
-   // What `read` gives is the member itself and no copy of it.
-   template <class Read>
-   explicit JavaValue(Read const& read) : _value(read())
+   Value _value;
+};
+
+// An enumeration.
+template <class Value, Value (*decode)(int code)>
+class JavaCode {
+public:
+   JavaCode(FederateAmbassadorHelper*, rti1516e::ByteWrapper& buffer)
+         : _value(decode(buffer.getInt()))
    {
    }
 
-   Value _value;
+   operator Value() const
+   {
+      return _value;
+   }
 
 private:
-   JavaValue(JavaValue const&) = delete;
-   JavaValue& operator=(JavaValue const&) = delete;
+   JavaCode(JavaCode const&) = delete;
+   JavaCode& operator=(JavaCode const&) = delete;
+
+   Value _value;
 };
 
-// Class, value, and the expression that reads it from `buffer`.
-#define TARN_FOR_EACH_SIMPLE_DECODER(X)                                                            \
-   X(JavaString, std::wstring, decodeString(buffer))                                               \
-   X(JavaByteArray, rti1516e::VariableLengthData, decodeTag(buffer))                               \
-   X(JavaSynchronizationPointFailureReason, rti1516e::SynchronizationPointFailureReason,           \
-         decodeSyncFailureReason(buffer.getInt()))                                                 \
-   X(JavaSaveFailureReason, rti1516e::SaveFailureReason, decodeSaveFailureReason(buffer.getInt())) \
-   X(JavaRestoreFailureReason, rti1516e::RestoreFailureReason,                                     \
-         decodeRestoreFailureReason(buffer.getInt()))                                              \
-   X(JavaOrderType, rti1516e::OrderType, decodeOrderType(buffer.getInt()))                         \
-   X(JavaTransportationTypeHandle, rti1516e::TransportationType,                                   \
-         decodeTransportationType(buffer.getInt()))                                                \
-   X(JavaFederateHandle, rti1516e::FederateHandle, decodeFederateHandle(buffer))                   \
-   X(JavaObjectClassHandle, rti1516e::ObjectClassHandle, decodeObjectClassHandle(buffer))          \
-   X(JavaInteractionClassHandle, rti1516e::InteractionClassHandle,                                 \
-         decodeInteractionClassHandle(buffer))                                                     \
-   X(JavaObjectInstanceHandle, rti1516e::ObjectInstanceHandle, decodeObjectInstanceHandle(buffer)) \
-   X(JavaAttributeHandle, rti1516e::AttributeHandle, decodeAttributeHandle(buffer))                \
-   X(JavaMessageRetractionHandle, rti1516e::MessageRetractionHandle,                               \
-         decodeMessageRetractionHandle(buffer))                                                    \
-   X(JavaRegionHandleSet, rti1516e::RegionHandleSet, decodeRegionHandleSet(buffer))
+typedef JavaCode<rti1516e::SynchronizationPointFailureReason, decodeSyncFailureReason>
+      JavaSynchronizationPointFailureReason;
+typedef JavaCode<rti1516e::SaveFailureReason, decodeSaveFailureReason> JavaSaveFailureReason;
+typedef JavaCode<rti1516e::RestoreFailureReason, decodeRestoreFailureReason>
+      JavaRestoreFailureReason;
+typedef JavaCode<rti1516e::OrderType, decodeOrderType> JavaOrderType;
+typedef JavaCode<rti1516e::TransportationType, decodeTransportationType>
+      JavaTransportationTypeHandle;
 
-#define TARN_SIMPLE_DECODER(Class, Value, read)                                                    \
-   class Class : public JavaValue<Value> {                                                         \
-   public:                                                                                         \
-      Class(FederateAmbassadorHelper*, rti1516e::ByteWrapper& buffer)                              \
-            : JavaValue<Value>([&buffer] { return read; })                                         \
-      {                                                                                            \
-      }                                                                                            \
-   };
+typedef JavaField<rti1516e::FederateHandle, decodeFederateHandle> JavaFederateHandle;
+typedef JavaField<rti1516e::ObjectClassHandle, decodeObjectClassHandle> JavaObjectClassHandle;
+typedef JavaField<rti1516e::InteractionClassHandle, decodeInteractionClassHandle>
+      JavaInteractionClassHandle;
+typedef JavaField<rti1516e::ObjectInstanceHandle, decodeObjectInstanceHandle>
+      JavaObjectInstanceHandle;
+typedef JavaField<rti1516e::AttributeHandle, decodeAttributeHandle> JavaAttributeHandle;
+typedef JavaField<rti1516e::MessageRetractionHandle, decodeMessageRetractionHandle>
+      JavaMessageRetractionHandle;
 
-TARN_FOR_EACH_SIMPLE_DECODER(TARN_SIMPLE_DECODER)
-#undef TARN_SIMPLE_DECODER
-#undef TARN_FOR_EACH_SIMPLE_DECODER
-
-// Class and value of the decoders that fill a container or a record; their constructors are in
-// Decoder.cpp.
-#define TARN_FOR_EACH_FILLING_DECODER(X)                                                           \
-   X(JavaFederateHandleSet, rti1516e::FederateHandleSet)                                           \
-   X(JavaAttributeHandleSet, rti1516e::AttributeHandleSet)                                         \
-   X(JavaSetOfString, std::set<std::wstring>)                                                      \
-   X(JavaAttributeHandleValueMap, rti1516e::AttributeHandleValueMap)                               \
-   X(JavaParameterHandleValueMap, rti1516e::ParameterHandleValueMap)                               \
-   X(JavaFederateHandleSaveStatusPairArray, rti1516e::FederateHandleSaveStatusPairVector)          \
-   X(JavaFederateRestoreStatusArray, rti1516e::FederateRestoreStatusVector)                        \
-   X(JavaFederationExecutionInformationSet, rti1516e::FederationExecutionInformationVector)        \
-   X(JavaSupplementalReflectInfo, rti1516e::SupplementalReflectInfo)                               \
-   X(JavaSupplementalReceiveInfo, rti1516e::SupplementalReceiveInfo)                               \
-   X(JavaSupplementalRemoveInfo, rti1516e::SupplementalRemoveInfo)
-
-#define TARN_FILLING_DECODER(Class, Value)                                                         \
-   class Class : public JavaValue<Value> {                                                         \
-   public:                                                                                         \
-      Class(FederateAmbassadorHelper*, rti1516e::ByteWrapper& buffer);                             \
-   };
-
-TARN_FOR_EACH_FILLING_DECODER(TARN_FILLING_DECODER)
-#undef TARN_FILLING_DECODER
-#undef TARN_FOR_EACH_FILLING_DECODER
+typedef JavaField<std::wstring, decodeString> JavaString;
+typedef JavaField<std::set<std::wstring>, decodeSetOfString> JavaSetOfString;
+typedef JavaField<rti1516e::VariableLengthData, decodeTag> JavaByteArray;
+typedef JavaField<rti1516e::FederateHandleSet, decodeFederateHandleSet> JavaFederateHandleSet;
+typedef JavaField<rti1516e::AttributeHandleSet, decodeAttributeHandleSet> JavaAttributeHandleSet;
+typedef JavaField<rti1516e::RegionHandleSet, decodeRegionHandleSet> JavaRegionHandleSet;
+typedef JavaField<rti1516e::AttributeHandleValueMap, decodeAttributeHandleValueMap>
+      JavaAttributeHandleValueMap;
+typedef JavaField<rti1516e::ParameterHandleValueMap, decodeParameterHandleValueMap>
+      JavaParameterHandleValueMap;
+typedef JavaField<rti1516e::FederateHandleSaveStatusPairVector, decodeSaveStatusPairs>
+      JavaFederateHandleSaveStatusPairArray;
+typedef JavaField<rti1516e::FederateRestoreStatusVector, decodeRestoreStatuses>
+      JavaFederateRestoreStatusArray;
+typedef JavaField<rti1516e::FederationExecutionInformationVector, decodeFederationExecutions>
+      JavaFederationExecutionInformationSet;
+typedef JavaField<rti1516e::SupplementalReflectInfo, decodeReflectInfo> JavaSupplementalReflectInfo;
+typedef JavaField<rti1516e::SupplementalReceiveInfo, decodeReceiveInfo> JavaSupplementalReceiveInfo;
+typedef JavaField<rti1516e::SupplementalRemoveInfo, decodeRemoveInfo> JavaSupplementalRemoveInfo;
 
 // Holds nothing, and has read nothing, while the helper has no factory.
 class JavaLogicalTime {

@@ -1,3 +1,4 @@
+// The codes of the enumerations, and the results of Java methods.
 #include "gen/cpp/Encoder.h"
 
 #include "jvm/Assert.h"

@@ -270,22 +270,6 @@ private:
    rti1516e::VariableLengthData const& _value;
 };
 
-// The integer that a handle holds: the low half of its word.
-template <class Friend, class Handle>
-int handleValue(Handle const& handle)
-{
-   return static_cast<int>(reinterpret_cast<std::uintptr_t>(Friend::getImplementation(handle)));
-}
-
-#define TARN_PUT_HANDLE(H)                                                                         \
-   inline void putHandle(rti1516e::ByteWrapper& buffer, rti1516e::H const& handle)                 \
-   {                                                                                               \
-      buffer.putInt(handleValue<rti1516e::H##Friend>(handle));                                     \
-   }
-
-RTI_FOR_EACH_HANDLE(TARN_PUT_HANDLE)
-#undef TARN_PUT_HANDLE
-
 template <class T>
 class HandleWrapperMixin : noncopyable {
 public:
@@ -308,7 +292,7 @@ public:
 
    void encode(rti1516e::ByteWrapper& buffer) const
    {
-      putHandle(buffer, this->_handle);
+      buffer.putInt(handleValue(this->_handle));
    }
 };
 
@@ -326,7 +310,7 @@ public:
    {
       buffer.putInt(static_cast<int>(_value.size()));
       for (Handle const& handle : _value) {
-         putHandle(buffer, handle);
+         buffer.putInt(handleValue(handle));
       }
    }
 
@@ -377,7 +361,7 @@ private:
 
    static void putEntry(rti1516e::ByteWrapper& buffer, Entry const& entry)
    {
-      putHandle(buffer, entry.first);
+      buffer.putInt(handleValue(entry.first));
       putBytes(buffer, entry.second);
    }
 
