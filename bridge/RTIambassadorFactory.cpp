@@ -21,9 +21,7 @@ std::wstring rtiName()
 
 std::wstring rtiVersion()
 {
-   std::wstring version(L"4.3.0"); // the one before
-   version = L"5.5.10";
-   return version;
+   return L"5.5.10";
 }
 
 } // namespace rti1516e

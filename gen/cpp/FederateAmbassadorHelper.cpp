@@ -1,3 +1,4 @@
+// Times as the federation's factory reads them.
 #include "gen/cpp/FederateAmbassadorHelper.h"
 
 #include "gen/cpp/HandleTable.h"

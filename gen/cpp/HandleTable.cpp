@@ -1,3 +1,4 @@
+// A table that only grows: a slot, once written, is read without a lock.
 #include "gen/cpp/HandleTable.h"
 
 #include <cstdio>
