@@ -38,8 +38,8 @@ FAULTS = [
         "Regions(_env, pair.second).encode(buffer);\n"
         "         Attributes(_env, pair.first).encode(buffer);")]),
     ("a handle with its high bit cut", ENCODER_H, [(
-        "buffer.putInt(handleValue<rti1516e::H##Friend>(handle));      ",
-        "buffer.putInt(0x7FFFFFFF & handleValue<rti1516e::H##Friend>(handle));")]),
+        "buffer.putInt(handleValue(this->_handle));",
+        "buffer.putInt(0x7FFFFFFF & handleValue(this->_handle));")]),
 
     # Codes and results.
     ("the order types' codes unshifted", ENCODER, [(
@@ -106,10 +106,10 @@ FAULTS = [
     ("a reflection tells of its regions", DECODER, [(
         "   bool const hasSentRegions = buffer.getInt() != 0;",
         "   bool const hasSentRegions = buffer.getInt() != 0;\n"
-        "   _value.hasSentRegions = hasSentRegions;")]),
+        "   info.hasSentRegions = hasSentRegions;")]),
     ("a flag is set by 1 alone", DECODER, [(
-        "_value.hasSentRegions = buffer.getInt() != 0;",
-        "_value.hasSentRegions = buffer.getInt() == 1;")]),
+        "info.hasSentRegions = buffer.getInt() != 0;",
+        "info.hasSentRegions = buffer.getInt() == 1;")]),
     ("the last code out of range", DECODER, [("code <= last", "code < last")]),
     ("one code too many", DECODER, [("code <= last", "code <= last + 1")]),
     ("the first of two values for a handle stays", DECODER, [(
@@ -127,7 +127,7 @@ FAULTS = [
         'env->GetMethodID(type, "getMessage", "()Ljava/lang/String;"));')]),
     ("another text for unknown exceptions", EXCEPTIONS, [(
         '"Unhandled exception"', '"Unhandled exception."')]),
-    ("another text for a missing method", BRIDGE, [(
+    ("another text for a missing method", "gen/cpp/JavaMethod.cpp", [(
         "Cannot locate %s.\\n", "Cannot find %s.\\n")]),
     ("unknown exceptions pass when they are to be caught", BRIDGE, [(
         'std::getenv("TARN1516_DONTCATCHALL") == nullptr',
