@@ -3,7 +3,6 @@
 #include <RTI/time/HLAinteger64Interval.h>
 #include <RTI/time/HLAinteger64TimeFactory.h>
 
-#include <chrono>
 #include <stdexcept>
 
 using namespace rti1516e;
@@ -40,10 +39,9 @@ std::wstring at(long long time)
 Federate::Federate(std::wstring const& name, CallbackModel model, Ledger& ledger)
       : _name(name),
         _model(model),
-        _ledger(ledger)
+        _ledger(ledger),
+        _inbox(name, model, ledger)
 {
-   RTIambassadorFactory factory;
-   _rti.ambassador.reset(factory.createRTIambassador().release());
 }
 
 void Federate::join(std::wstring const& fomModule)
@@ -70,10 +68,11 @@ void Federate::registerStart()
 void Federate::run(int steps)
 {
    declare();
+   registerShip();
    startTime();
    waitUntil([this] { return _announced.count(start) != 0; });
    _rti->synchronizationPointAchieved(start);
-   waitUntil([this] { return _synchronized.count(start) != 0 && _discovered == 1; });
+   waitUntil([this] { return _synchronized.count(start) != 0 && _others.size() == 1; });
    for (long long time = 1; time <= steps; ++time) {
       step(time);
    }
@@ -81,25 +80,18 @@ void Federate::run(int steps)
 
 void Federate::leave()
 {
-   _rti->resignFederationExecution(DELETE_OBJECTS_THEN_DIVEST);
-   _ledger.say(_name, L"resigned");
-   try {
-      _rti->destroyFederationExecution(federation);
-      _ledger.say(_name, L"destroyed the federation execution");
-   } catch (FederatesCurrentlyJoined const&) {
-      // The other one will.
-   }
-   _rti->disconnect();
+   bool const wasLast = _rti.leave(federation);
+   _ledger.say(_name, wasLast ? L"left, and destroyed the federation execution" : L"left");
 }
 
 int Federate::services() const
 {
-   return _rti.calls;
+   return _rti.calls();
 }
 
 int Federate::callbacks() const
 {
-   return _callbacks;
+   return _inbox.callbacks();
 }
 
 void Federate::declare()
@@ -120,8 +112,17 @@ void Federate::declare()
    _strength = _rti->getParameterHandle(_signalClass, L"Strength");
    _rti->publishInteractionClass(_signalClass);
    _rti->subscribeInteractionClass(_signalClass);
+}
 
-   _ship = _rti->registerObjectInstance(_shipClass);
+void Federate::registerShip()
+{
+   std::wstring const shipName = L"MS " + _name;
+   _rti->reserveObjectInstanceName(shipName);
+   waitUntil([this] { return _nameState != ASKED; });
+   if (_nameState == REFUSED) {
+      throw std::runtime_error("the ship's name is taken");
+   }
+   _ship = _rti->registerObjectInstance(_shipClass, shipName);
    _ledger.say(_name, L"registered " + _rti->getObjectInstanceName(_ship));
 }
 
@@ -174,39 +175,21 @@ void Federate::sendSignal(long long time)
    _rti->sendInteraction(_signalClass, values, tagOf(tag), HLAinteger64Time(time));
 }
 
-// An evoked federate gets its callbacks inside this; an immediate one is told that they came.
 void Federate::waitUntil(std::function<bool()> const& condition)
 {
-   std::chrono::steady_clock::time_point const deadline =
-         std::chrono::steady_clock::now() + std::chrono::seconds(30);
-   std::unique_lock<std::mutex> lock(_mutex);
-   while (!condition()) {
-      if (_model == HLA_EVOKED) {
-         lock.unlock();
-         _rti->evokeMultipleCallbacks(0.01, 0.1);
-         lock.lock();
-      } else {
-         _changed.wait_for(lock, std::chrono::milliseconds(100));
-      }
-      if (std::chrono::steady_clock::now() > deadline) {
-         throw std::runtime_error("waited for 30 seconds in vain");
-      }
-   }
+   _inbox.waitUntil(_rti, condition);
 }
 
-void Federate::happened(std::wstring const& what, std::function<void()> const& change)
+void Federate::synchronizationPointRegistrationSucceeded(std::wstring const& label)
 {
-   _ledger.say(_name, what);
-   std::lock_guard<std::mutex> const lock(_mutex);
-   ++_callbacks;
-   change();
-   _changed.notify_all();
+   _inbox.happened(L"has registered '" + label + L"'");
 }
 
 void Federate::announceSynchronizationPoint(
       std::wstring const& label, VariableLengthData const& tag)
 {
-   happened(L"is told of '" + label + L"': " + textOf(tag), [&] { _announced.insert(label); });
+   _inbox.happened(
+         L"is told of '" + label + L"': " + textOf(tag), [&] { _announced.insert(label); });
 }
 
 void Federate::federationSynchronized(std::wstring const& label, FederateHandleSet const& failed)
@@ -214,13 +197,43 @@ void Federate::federationSynchronized(std::wstring const& label, FederateHandleS
    if (!failed.empty()) {
       _ledger.differs(_name + L": federates failed to synchronize");
    }
-   happened(L"is synchronized at '" + label + L"'", [&] { _synchronized.insert(label); });
+   _inbox.happened(L"is synchronized at '" + label + L"'", [&] { _synchronized.insert(label); });
+}
+
+void Federate::startRegistrationForObjectClass(ObjectClassHandle)
+{
+   _inbox.happened(L"is told that ships are wanted");
+}
+
+void Federate::stopRegistrationForObjectClass(ObjectClassHandle)
+{
+   _inbox.happened(L"is told that ships are no longer wanted");
+}
+
+void Federate::turnInteractionsOn(InteractionClassHandle)
+{
+   _inbox.happened(L"is told that signals are wanted");
+}
+
+void Federate::turnInteractionsOff(InteractionClassHandle)
+{
+   _inbox.happened(L"is told that signals are no longer wanted");
+}
+
+void Federate::objectInstanceNameReservationSucceeded(std::wstring const& name)
+{
+   _inbox.happened(L"may call its ship " + name, [this] { _nameState = RESERVED; });
+}
+
+void Federate::objectInstanceNameReservationFailed(std::wstring const& name)
+{
+   _inbox.happened(L"may not call its ship " + name, [this] { _nameState = REFUSED; });
 }
 
 void Federate::discoverObjectInstance(
-      ObjectInstanceHandle, ObjectClassHandle, std::wstring const& name)
+      ObjectInstanceHandle object, ObjectClassHandle, std::wstring const& name)
 {
-   happened(L"discovers " + name, [this] { ++_discovered; });
+   _inbox.happened(L"discovers " + name, [this, object] { _others[object] = Ship(); });
 }
 
 void Federate::discoverObjectInstance(ObjectInstanceHandle object, ObjectClassHandle objectClass,
@@ -229,19 +242,26 @@ void Federate::discoverObjectInstance(ObjectInstanceHandle object, ObjectClassHa
    discoverObjectInstance(object, objectClass, name);
 }
 
-void Federate::reflectAttributeValues(ObjectInstanceHandle, AttributeHandleValueMap const& values,
-      VariableLengthData const& tag, OrderType sent, TransportationType, LogicalTime const& time,
-      OrderType received, SupplementalReflectInfo)
+// An update may hold any of the attributes; of the others the last value stays.
+void Federate::reflectAttributeValues(ObjectInstanceHandle object,
+      AttributeHandleValueMap const& values, VariableLengthData const& tag, OrderType sent,
+      TransportationType, LogicalTime const& time, OrderType received, SupplementalReflectInfo)
 {
-   Ship ship;
-   ship.name = decodeText(values.at(_shipName));
-   decodePosition(values.at(_position), ship.x, ship.y);
-   ship.cargo = decodeCargo(values.at(_cargo));
+   Ship& ship = _others[object]; // known to callbacks alone, which come one after the other
+   for (AttributeHandleValueMap::value_type const& value : values) {
+      if (value.first == _shipName) {
+         ship.name = decodeText(value.second);
+      } else if (value.first == _position) {
+         decodePosition(value.second, ship.x, ship.y);
+      } else if (value.first == _cargo) {
+         ship.cargo = decodeCargo(value.second);
+      }
+   }
    _ledger.arrived(textOf(tag), valueOf(time), ship);
    if (sent != TIMESTAMP || received != TIMESTAMP) {
       _ledger.differs(textOf(tag) + L" did not come in timestamp order");
    }
-   happened(L"reflects " + textOf(tag) + L": x " + std::to_wstring(ship.x), [] {});
+   _inbox.happened(L"reflects " + textOf(tag) + L": x " + std::to_wstring(ship.x));
 }
 
 void Federate::reflectAttributeValues(ObjectInstanceHandle object,
@@ -252,16 +272,29 @@ void Federate::reflectAttributeValues(ObjectInstanceHandle object,
    reflectAttributeValues(object, values, tag, sent, type, time, received, info);
 }
 
+void Federate::removeObjectInstance(
+      ObjectInstanceHandle object, VariableLengthData const&, OrderType, SupplementalRemoveInfo)
+{
+   _inbox.happened(L"sees " + _others[object].name + L" gone", [&] { _others.erase(object); });
+}
+
 void Federate::receiveInteraction(InteractionClassHandle, ParameterHandleValueMap const& values,
       VariableLengthData const& tag, OrderType sent, TransportationType, LogicalTime const& time,
       OrderType received, SupplementalReceiveInfo)
 {
-   Signal const signal = {decodeText(values.at(_text)), decodeStrength(values.at(_strength))};
+   Signal signal;
+   for (ParameterHandleValueMap::value_type const& value : values) {
+      if (value.first == _text) {
+         signal.text = decodeText(value.second);
+      } else if (value.first == _strength) {
+         signal.strength = decodeStrength(value.second);
+      }
+   }
    _ledger.arrived(textOf(tag), valueOf(time), signal);
    if (sent != TIMESTAMP || received != TIMESTAMP) {
       _ledger.differs(textOf(tag) + L" did not come in timestamp order");
    }
-   happened(L"receives " + textOf(tag) + L": '" + signal.text + L"'", [] {});
+   _inbox.happened(L"receives " + textOf(tag) + L": '" + signal.text + L"'");
 }
 
 void Federate::receiveInteraction(InteractionClassHandle interaction,
@@ -274,16 +307,16 @@ void Federate::receiveInteraction(InteractionClassHandle interaction,
 
 void Federate::timeRegulationEnabled(LogicalTime const& time)
 {
-   happened(L"regulates time from " + time.toString(), [this] { _regulating = true; });
+   _inbox.happened(L"regulates time from " + time.toString(), [this] { _regulating = true; });
 }
 
 void Federate::timeConstrainedEnabled(LogicalTime const& time)
 {
-   happened(L"is constrained from " + time.toString(), [this] { _constrained = true; });
+   _inbox.happened(L"is constrained from " + time.toString(), [this] { _constrained = true; });
 }
 
 void Federate::timeAdvanceGrant(LogicalTime const& time)
 {
    long long const granted = valueOf(time);
-   happened(L"is granted " + time.toString(), [this, granted] { _granted = granted; });
+   _inbox.happened(L"is granted " + time.toString(), [this, granted] { _granted = granted; });
 }

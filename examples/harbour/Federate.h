@@ -1,20 +1,17 @@
-// A federate of the harbour: joins, sails or signals for some time steps, and resigns.
+// A federate of the harbour: joins, sails and signals for some time steps, and leaves.
 #ifndef harbour_Federate_h
 #define harbour_Federate_h
 
-#include "Ledger.h"
+#include "Inbox.h"
 
 #include <RTI/NullFederateAmbassador.h>
 #include <RTI/RTI1516.h>
 #include <RTI/time/HLAinteger64Time.h>
 
-#include <condition_variable>
-#include <functional>
-#include <memory>
-#include <mutex>
+#include <map>
 #include <set>
 
-// Both federates run this same life, each on a thread of its own; they differ in their name, their
+// Both ships live this same life, each on a thread of its own; they differ in their name, their
 // callback model and in what they send. Ship updates and signals carry a time; both federates
 // regulate time and are constrained by it.
 class Federate : public rti1516e::NullFederateAmbassador {
@@ -37,32 +34,26 @@ public:
    int callbacks() const;
 
 private:
-   // The ambassador; each use is a service called.
-   class CountedAmbassador {
-   public:
-      std::unique_ptr<rti1516e::RTIambassador> ambassador;
-      int calls = 0;
-
-      rti1516e::RTIambassador* operator->()
-      {
-         ++calls;
-         return ambassador.get();
-      }
-   };
-
    void declare();
+   void registerShip();
    void startTime();
    void step(long long time);
    void sendShip(long long time);
    void sendSignal(long long time);
    void waitUntil(std::function<bool()> const& condition);
-   void happened(std::wstring const& what, std::function<void()> const& change);
 
    // Callbacks.
+   void synchronizationPointRegistrationSucceeded(std::wstring const& label) override;
    void announceSynchronizationPoint(
          std::wstring const& label, rti1516e::VariableLengthData const& tag) override;
    void federationSynchronized(
          std::wstring const& label, rti1516e::FederateHandleSet const& failed) override;
+   void startRegistrationForObjectClass(rti1516e::ObjectClassHandle objectClass) override;
+   void stopRegistrationForObjectClass(rti1516e::ObjectClassHandle objectClass) override;
+   void turnInteractionsOn(rti1516e::InteractionClassHandle interaction) override;
+   void turnInteractionsOff(rti1516e::InteractionClassHandle interaction) override;
+   void objectInstanceNameReservationSucceeded(std::wstring const& name) override;
+   void objectInstanceNameReservationFailed(std::wstring const& name) override;
    void discoverObjectInstance(rti1516e::ObjectInstanceHandle object,
          rti1516e::ObjectClassHandle objectClass, std::wstring const& name) override;
    void discoverObjectInstance(rti1516e::ObjectInstanceHandle object,
@@ -78,6 +69,9 @@ private:
          rti1516e::OrderType sent, rti1516e::TransportationType type,
          rti1516e::LogicalTime const& time, rti1516e::OrderType received,
          rti1516e::MessageRetractionHandle handle, rti1516e::SupplementalReflectInfo info) override;
+   void removeObjectInstance(rti1516e::ObjectInstanceHandle object,
+         rti1516e::VariableLengthData const& tag, rti1516e::OrderType sent,
+         rti1516e::SupplementalRemoveInfo info) override;
    void receiveInteraction(rti1516e::InteractionClassHandle interaction,
          rti1516e::ParameterHandleValueMap const& values, rti1516e::VariableLengthData const& tag,
          rti1516e::OrderType sent, rti1516e::TransportationType type,
@@ -95,7 +89,6 @@ private:
    std::wstring const _name;
    rti1516e::CallbackModel const _model;
    Ledger& _ledger;
-   CountedAmbassador _rti;
 
    rti1516e::ObjectClassHandle _shipClass;
    rti1516e::AttributeHandle _shipName, _position, _cargo;
@@ -103,15 +96,20 @@ private:
    rti1516e::ParameterHandle _text, _strength;
    rti1516e::ObjectInstanceHandle _ship;
 
-   // What callbacks change, on whatever thread they come.
-   std::mutex _mutex;
-   std::condition_variable _changed;
-   int _callbacks = 0;
+   // What callbacks change.
+   Inbox _inbox;
    std::set<std::wstring> _announced, _synchronized;
-   int _discovered = 0;
+   enum {
+      ASKED,
+      RESERVED,
+      REFUSED
+   } _nameState = ASKED;
+   std::map<rti1516e::ObjectInstanceHandle, Ship> _others; // as last reflected
    bool _regulating = false;
    bool _constrained = false;
    long long _granted = -1;
+
+   Ambassador _rti;
 };
 
 #endif

@@ -59,6 +59,19 @@ void Ledger::differs(std::wstring const& what)
    std::wcout << L"DIFFERS: " << what << std::endl;
 }
 
+void Ledger::failed(std::wstring const& why)
+{
+   differs(why);
+   Guard const guard(_mutex);
+   _hasFailed = true;
+}
+
+bool Ledger::hasFailed()
+{
+   Guard const guard(_mutex);
+   return _hasFailed;
+}
+
 template <class Value>
 void Ledger::count(Entries<Value> const& entries)
 {

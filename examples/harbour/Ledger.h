@@ -22,6 +22,10 @@ public:
    // Something that should not be.
    void differs(std::wstring const& what);
 
+   // A federate can't go on, and nobody needs to wait for it.
+   void failed(std::wstring const& why);
+   bool hasFailed();
+
    // Prints the comparison; whether all was as it should be.
    bool close();
 
@@ -48,6 +52,7 @@ private:
    Entries<Signal> _signals;
    int _compared = 0;
    int _differences = 0;
+   bool _hasFailed = false;
 };
 
 #endif

@@ -10,15 +10,15 @@
 // The attributes of object class Ship.
 struct Ship {
    std::wstring name;
-   double x; // metres east of the harbour's mouth
-   double y; // metres north of it
+   double x = 0; // metres east of the harbour's mouth
+   double y = 0; // metres north of it
    std::vector<std::wstring> cargo;
 };
 
 // The parameters of interaction class Signal.
 struct Signal {
    std::wstring text;
-   int strength; // 0 to 100
+   int strength = 0; // 0 to 100
 };
 
 bool operator==(Ship const& left, Ship const& right);

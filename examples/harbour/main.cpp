@@ -3,22 +3,37 @@
 #include "Federate.h"
 
 #include <clocale>
+#include <cstdlib>
 #include <exception>
 #include <iostream>
+#include <stdexcept>
+#include <string>
 #include <thread>
+#include <vector>
 
 namespace {
 
 int const steps = 5;
+
+// Text from outside is in the encoding that the locale tells.
+std::wstring wide(std::string const& text)
+{
+   std::vector<wchar_t> decoded(text.size() + 1);
+   std::size_t const length = std::mbstowcs(decoded.data(), text.c_str(), decoded.size());
+   if (length == static_cast<std::size_t>(-1)) {
+      throw std::invalid_argument("'" + text + "' is not text in the locale's encoding");
+   }
+   return std::wstring(decoded.data(), length);
+}
 
 void runGuarded(Federate& federate, Ledger& ledger)
 {
    try {
       federate.run(steps);
    } catch (rti1516e::Exception const& e) {
-      ledger.differs(e.what());
+      ledger.failed(e.what());
    } catch (std::exception const& e) {
-      ledger.differs(std::wstring(e.what(), e.what() + std::char_traits<char>::length(e.what())));
+      ledger.failed(wide(e.what()));
    }
 }
 
@@ -50,9 +65,11 @@ int main(int argc, char** argv)
    std::setlocale(LC_ALL, "");
    std::string const module = argc > 1 ? argv[1] : HARBOUR_FOM;
    try {
-      return runFederation(std::wstring(module.begin(), module.end()));
+      return runFederation(wide(module));
    } catch (rti1516e::Exception const& e) {
       std::wcerr << e.what() << std::endl;
-      return 1;
+   } catch (std::exception const& e) {
+      std::wcerr << e.what() << std::endl;
    }
+   return 1;
 }
