@@ -1,6 +1,6 @@
 // Callbacks fired from a Java loop, each beside a native that does by hand what can't be avoided.
 #include "bench/bridge/Cases.h"
-#include "tests/performance/Frames.h"
+#include "bench/bridge/Frames.h"
 #include <RTI/time/HLAfloat64TimeFactory.h>
 
 #include <map>
@@ -13,8 +13,7 @@ namespace {
 
 int const fired = 1000; // callbacks a loop in Java
 
-// ---- By hand
-// -------------------------------------------------------------------------------------
+// ---- By hand ----------------------------------------------------------------------------------
 
 typedef std::vector<char> Bytes;
 typedef std::map<int, Bytes> Values;
@@ -118,8 +117,7 @@ void registerByHand()
    grantReceiver = &member().federate;
 }
 
-// ---- Cases
-// ---------------------------------------------------------------------------------------
+// ---- Cases ------------------------------------------------------------------------------------
 
 // `loop` is the Java method that fires.
 void addLoop(std::string const& name, char const* loop, std::string const& frame)
@@ -140,7 +138,7 @@ void addLoop(std::string const& name, char const* loop, std::string const& frame
 
 void addReflection(std::string const& name, int attributes)
 {
-   std::string const frame = performance::makeReflection(member().handle, attributes, 8);
+   std::string const frame = makeReflection(member().handle, 1, attributes, 8);
    addLoop(name + "/subject", "fireReflectAttributeValues", frame);
    addLoop(name + "/floor", "fireReflectByHand", frame);
 }
@@ -154,11 +152,11 @@ void addCallbacks()
    addReflection("reflect-10", 10);
    addReflection("reflect-100", 100);
 
-   std::string const grant = performance::makeGrant(member().handle, 1.5);
+   std::string const grant = makeGrant(member().handle, 1.5);
    addLoop("timeAdvanceGrant/subject", "fireTimeAdvanceGrant", grant);
    addLoop("timeAdvanceGrant/floor", "firePinAndRelease", grant);
    addLoop("timeAdvanceGrant/least", "fireGrantByHand", grant);
-   std::string const saved = contract::frame(member().handle, contract::Wire());
+   std::string const saved = makeEmptyFrame(member().handle);
    addLoop("federationSaved/subject", "fireFederationSaved", saved);
    addLoop("federationSaved/floor", "firePinAndRelease", saved);
 }

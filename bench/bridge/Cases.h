@@ -3,7 +3,7 @@
 #define bench_bridge_Cases_h
 
 #include "bench/bridge/Partner.h"
-#include "tests/support/Script.h"
+#include "bench/bridge/Script.h"
 
 #include <benchmark/benchmark.h>
 #include <string>
@@ -37,10 +37,10 @@ private:
 template <class Call>
 std::string recordBody(char const* method, Call const& call)
 {
-   script::record(true);
+   script::record();
    call();
-   std::string const bytes = script::lastBody(method).bytes;
-   answerAtOnce();
+   std::string const bytes = script::lastBody(method);
+   script::answerAtOnce();
    return bytes;
 }
 

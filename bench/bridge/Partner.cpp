@@ -1,6 +1,6 @@
 #include "bench/bridge/Partner.h"
 
-#include "tests/support/Script.h"
+#include "bench/bridge/Script.h"
 
 #include <cstdlib>
 #include <dlfcn.h>
@@ -80,11 +80,11 @@ jbyteArray keepArray(std::string const& bytes)
 
 Member::Member() : ambassador(makeAmbassador())
 {
-   answerAtOnce();
-   script::record(true);
+   script::answerAtOnce();
+   script::record();
    ambassador->connect(federate, HLA_IMMEDIATE, L"");
-   handle = toInteger(script::lastBody("connect_FA_CM_S").bytes);
-   script::record(false);
+   handle = toInteger(script::lastBody("connect_FA_CM_S"));
+   script::answerAtOnce();
    // No name of a time implementation is answered, which is the floating-point one.
    ambassador->joinFederationExecution(L"ship", L"harbour", std::vector<std::wstring>());
 }
@@ -97,12 +97,6 @@ Member& member()
       return new Member; // stays with its VM
    }();
    return *shared;
-}
-
-void answerAtOnce()
-{
-   script::reset();
-   script::scriptAll(true);
 }
 
 std::auto_ptr<RTIambassador> makeAmbassador()

@@ -53,9 +53,6 @@ struct Member {
 // The one that most benchmarks share. The first call starts the VM.
 Member& member();
 
-// Puts the stand-in into its mode: every method answers 0, null, "" or false.
-void answerAtOnce();
-
 // An ambassador that never connected.
 std::auto_ptr<rti1516e::RTIambassador> makeAmbassador();
 

@@ -1,7 +1,6 @@
 // Services through the public ambassador, each beside its floor.
 #include "bench/bridge/Cases.h"
 #include "bench/bridge/Floor.h"
-#include "tests/support/Script.h"
 #include <RTI/time/HLAfloat64Time.h>
 
 #include <vector>
@@ -53,8 +52,7 @@ void addUpdate(std::string const& name, int attributes, std::size_t size)
    compare(name, updateMethod, "([B)V", Update(values), invokeVoid);
 }
 
-// ---- The floor, and besides by hand what the interface asks for
-// ----------------------------------
+// ---- The floor, and besides by hand what the interface asks for -------------------------------
 
 // The values come out of a map: one way through it, without a look at a value.
 void addLeastUpdate(std::string const& name, int attributes, std::size_t size)
@@ -179,8 +177,7 @@ void addUsualUpdate(std::string const& name, int attributes, std::size_t size)
    });
 }
 
-// ---- Look-ups and evoked callbacks
-// ---------------------------------------------------------------
+// ---- Look-ups and evoked callbacks ------------------------------------------------------------
 
 void addSmallServices()
 {
@@ -197,8 +194,7 @@ void addSmallServices()
          invokeBoolean);
 }
 
-// ---- Failures
-// ------------------------------------------------------------------------------------
+// ---- Failures ---------------------------------------------------------------------------------
 
 // An update that Java refuses with the exception of that name.
 void addFailure(std::string const& name, std::string const& exception)
@@ -209,7 +205,7 @@ void addFailure(std::string const& name, std::string const& exception)
    JavaMethod const method = findService(updateMethod, "([B)V");
 
    benchmark::RegisterBenchmark((name + "/subject").c_str(), [=](benchmark::State& state) {
-      script::answerThrow(updateMethod, javaClass, L"refused", true);
+      script::throwAlways(updateMethod, javaClass);
       RTIambassador& ambassador = *member().ambassador;
       for (auto _ : state) {
          try {
@@ -219,10 +215,10 @@ void addFailure(std::string const& name, std::string const& exception)
             benchmark::DoNotOptimize(&e);
          }
       }
-      answerAtOnce();
+      script::answerAtOnce();
    });
    benchmark::RegisterBenchmark((name + "/floor").c_str(), [=](benchmark::State& state) {
-      script::answerThrow(updateMethod, javaClass, L"refused", true);
+      script::throwAlways(updateMethod, javaClass);
       JNIEnv* const env = environment();
       for (auto _ : state) {
          jbyteArray const array = makeArray(env, bytes);
@@ -232,7 +228,7 @@ void addFailure(std::string const& name, std::string const& exception)
          env->ExceptionClear();
          env->DeleteLocalRef(thrown);
       }
-      answerAtOnce();
+      script::answerAtOnce();
    });
 }
 
