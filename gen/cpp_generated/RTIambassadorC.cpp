@@ -925,9 +925,8 @@ MessageRetractionHandle RTIambassadorC::updateAttributeValues(ObjectInstanceHand
    CppWrapper<LogicalTime const&> wrappedTime(env, theTime);
    jbyteArray const body = encodeBody(env, wrappedObject, wrappedAttributeValues,
          wrappedUserSuppliedTag, wrappedTime);
-   jbyteArray const answer =
-         static_cast<jbyteArray>(env->CallObjectMethod(
-               _rtiObject, _idUpdateAttributeValues_OIH_AHVM_BX_LT, body));
+   jbyteArray const answer = static_cast<jbyteArray>(env->CallObjectMethod(
+         _rtiObject, _idUpdateAttributeValues_OIH_AHVM_BX_LT, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<InvalidLogicalTime, AttributeNotOwned, AttributeNotDefined,
          ObjectInstanceNotKnown, CommonTail>>(env);
@@ -963,9 +962,8 @@ MessageRetractionHandle RTIambassadorC::sendInteraction(InteractionClassHandle t
    CppWrapper<LogicalTime const&> wrappedTime(env, theTime);
    jbyteArray const body = encodeBody(env, wrappedInteraction, wrappedParameterValues,
          wrappedUserSuppliedTag, wrappedTime);
-   jbyteArray const answer =
-         static_cast<jbyteArray>(env->CallObjectMethod(
-               _rtiObject, _idSendInteraction_ICH_PHVM_BX_LT, body));
+   jbyteArray const answer = static_cast<jbyteArray>(env->CallObjectMethod(
+         _rtiObject, _idSendInteraction_ICH_PHVM_BX_LT, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<InvalidLogicalTime, InteractionClassNotPublished,
          InteractionParameterNotDefined, InteractionClassNotDefined, CommonTail>>(env);
@@ -994,9 +992,8 @@ MessageRetractionHandle RTIambassadorC::deleteObjectInstance(ObjectInstanceHandl
    CppWrapper<VariableLengthData const&> wrappedUserSuppliedTag(env, theUserSuppliedTag);
    CppWrapper<LogicalTime const&> wrappedTime(env, theTime);
    jbyteArray const body = encodeBody(env, wrappedObject, wrappedUserSuppliedTag, wrappedTime);
-   jbyteArray const answer =
-         static_cast<jbyteArray>(env->CallObjectMethod(
-               _rtiObject, _idDeleteObjectInstance_OIH_BX_LT, body));
+   jbyteArray const answer = static_cast<jbyteArray>(env->CallObjectMethod(
+         _rtiObject, _idDeleteObjectInstance_OIH_BX_LT, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<InvalidLogicalTime, DeletePrivilegeNotHeld, ObjectInstanceNotKnown,
          CommonTail>>(env);
@@ -1200,9 +1197,8 @@ std::unique_ptr<AttributeHandleSet> RTIambassadorC::attributeOwnershipDivestitur
    CppWrapper<ObjectInstanceHandle> wrappedObject(env, theObject);
    CppWrapper<AttributeHandleSet const&> wrappedAttributes(env, theAttributes);
    jbyteArray const body = encodeBody(env, wrappedObject, wrappedAttributes);
-   jintArray const answer =
-         static_cast<jintArray>(env->CallObjectMethod(
-               _rtiObject, _idAttributeOwnershipDivestitureIfWanted_OIH_AHS, body));
+   jintArray const answer = static_cast<jintArray>(env->CallObjectMethod(
+         _rtiObject, _idAttributeOwnershipDivestitureIfWanted_OIH_AHS, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<AttributeNotOwned, AttributeNotDefined, ObjectInstanceNotKnown,
          CommonTail>>(env);
@@ -1258,8 +1254,8 @@ bool RTIambassadorC::isAttributeOwnedByFederate(ObjectInstanceHandle theObject,
    CppWrapper<ObjectInstanceHandle> wrappedObject(env, theObject);
    CppWrapper<AttributeHandle> wrappedAttribute(env, theAttribute);
    jbyteArray const body = encodeBody(env, wrappedObject, wrappedAttribute);
-   jboolean const answer =
-         env->CallBooleanMethod(_rtiObject, _idIsAttributeOwnedByFederate_OIH_AH, body);
+   jboolean const answer = env->CallBooleanMethod(
+         _rtiObject, _idIsAttributeOwnedByFederate_OIH_AH, body);
    env->DeleteLocalRef(body);
    throwPending<Ladder<AttributeNotDefined, ObjectInstanceNotKnown, CommonTail>>(env);
    return returnBoolean(env, answer);
@@ -1384,8 +1380,8 @@ TimeQueryReturn RTIambassadorC::queryGALT()
 {
    ProtectFPU protectFPU;
    MyEnv env;
-   jbyteArray const answer =
-         static_cast<jbyteArray>(env->CallObjectMethod(_rtiObject, _idQueryGALT));
+   jbyteArray const answer = static_cast<jbyteArray>(env->CallObjectMethod(
+         _rtiObject, _idQueryGALT));
    throwPending<Ladder<CommonTail>>(env);
    return returnTimeQueryReturn(env, answer);
 }
@@ -1394,8 +1390,8 @@ std::unique_ptr<LogicalTime> RTIambassadorC::queryLogicalTime()
 {
    ProtectFPU protectFPU;
    MyEnv env;
-   jbyteArray const answer =
-         static_cast<jbyteArray>(env->CallObjectMethod(_rtiObject, _idQueryLogicalTime));
+   jbyteArray const answer = static_cast<jbyteArray>(env->CallObjectMethod(
+         _rtiObject, _idQueryLogicalTime));
    throwPending<Ladder<CommonTail>>(env);
    return returnLogicalTime(env, answer);
 }
@@ -1404,8 +1400,8 @@ TimeQueryReturn RTIambassadorC::queryLITS()
 {
    ProtectFPU protectFPU;
    MyEnv env;
-   jbyteArray const answer =
-         static_cast<jbyteArray>(env->CallObjectMethod(_rtiObject, _idQueryLITS));
+   jbyteArray const answer = static_cast<jbyteArray>(env->CallObjectMethod(
+         _rtiObject, _idQueryLITS));
    throwPending<Ladder<CommonTail>>(env);
    return returnTimeQueryReturn(env, answer);
 }
@@ -1426,8 +1422,8 @@ std::unique_ptr<LogicalTimeInterval> RTIambassadorC::queryLookahead()
 {
    ProtectFPU protectFPU;
    MyEnv env;
-   jbyteArray const answer =
-         static_cast<jbyteArray>(env->CallObjectMethod(_rtiObject, _idQueryLookahead));
+   jbyteArray const answer = static_cast<jbyteArray>(env->CallObjectMethod(
+         _rtiObject, _idQueryLookahead));
    throwPending<Ladder<TimeRegulationIsNotEnabled, CommonTail>>(env);
    return returnLogicalTimeInterval(env, answer);
 }
@@ -1518,8 +1514,8 @@ ObjectInstanceHandle RTIambassadorC::registerObjectInstanceWithRegions(ObjectCla
    CppWrapper<AttributeHandleSetRegionHandleSetPairVector const&> wrappedAttributesAndRegions(
          env, theAttributesAndRegions);
    jbyteArray const body = encodeBody(env, wrappedClass, wrappedAttributesAndRegions);
-   jint const answer =
-         env->CallIntMethod(_rtiObject, _idRegisterObjectInstanceWithRegions_OCH_ASRSPL, body);
+   jint const answer = env->CallIntMethod(
+         _rtiObject, _idRegisterObjectInstanceWithRegions_OCH_ASRSPL, body);
    env->DeleteLocalRef(body);
    throwPending<Ladder<InvalidRegionContext, RegionNotCreatedByThisFederate, InvalidRegion,
          AttributeNotPublished, ObjectClassNotPublished, AttributeNotDefined, ObjectClassNotDefined,
@@ -1538,8 +1534,8 @@ ObjectInstanceHandle RTIambassadorC::registerObjectInstanceWithRegions(ObjectCla
          env, theAttributesAndRegions);
    CppWrapper<std::wstring const&> wrappedName(env, theName);
    jbyteArray const body = encodeBody(env, wrappedClass, wrappedAttributesAndRegions, wrappedName);
-   jint const answer =
-         env->CallIntMethod(_rtiObject, _idRegisterObjectInstanceWithRegions_OCH_ASRSPL_S, body);
+   jint const answer = env->CallIntMethod(
+         _rtiObject, _idRegisterObjectInstanceWithRegions_OCH_ASRSPL_S, body);
    env->DeleteLocalRef(body);
    throwPending<Ladder<ObjectInstanceNameInUse, ObjectInstanceNameNotReserved, InvalidRegionContext,
          RegionNotCreatedByThisFederate, InvalidRegion, AttributeNotPublished,
@@ -1590,7 +1586,8 @@ void RTIambassadorC::subscribeObjectClassAttributesWithRegions(ObjectClassHandle
    CppWrapper<std::wstring const&> wrappedUpdateRateDesignator(env, updateRateDesignator);
    jbyteArray const body = encodeBody(env, wrappedClass, wrappedAttributesAndRegions, wrappedActive,
          wrappedUpdateRateDesignator);
-   env->CallVoidMethod(_rtiObject, _idSubscribeObjectClassAttributesWithRegions_OCH_ASRSPL_Z_S, body);
+   env->CallVoidMethod(
+         _rtiObject, _idSubscribeObjectClassAttributesWithRegions_OCH_ASRSPL_Z_S, body);
    env->DeleteLocalRef(body);
    throwPending<Ladder<InvalidRegionContext, RegionNotCreatedByThisFederate, InvalidRegion,
          AttributeNotDefined, ObjectClassNotDefined, InvalidUpdateRateDesignator, CommonTail>>(env);
@@ -1674,9 +1671,8 @@ MessageRetractionHandle RTIambassadorC::sendInteractionWithRegions(
    CppWrapper<LogicalTime const&> wrappedTime(env, theTime);
    jbyteArray const body = encodeBody(env, wrappedInteraction, wrappedParameterValues,
          wrappedRegions, wrappedUserSuppliedTag, wrappedTime);
-   jbyteArray const answer =
-         static_cast<jbyteArray>(env->CallObjectMethod(
-               _rtiObject, _idSendInteractionWithRegions_ICH_PHVM_RHS_BX_LT, body));
+   jbyteArray const answer = static_cast<jbyteArray>(env->CallObjectMethod(
+         _rtiObject, _idSendInteractionWithRegions_ICH_PHVM_RHS_BX_LT, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<InvalidLogicalTime, InvalidRegionContext, RegionNotCreatedByThisFederate,
          InvalidRegion, InteractionClassNotPublished, InteractionParameterNotDefined,
@@ -1742,8 +1738,8 @@ std::wstring RTIambassadorC::getFederateName(FederateHandle theFederate)
    MyEnv env;
    CppWrapper<FederateHandle> wrappedFederate(env, theFederate);
    jbyteArray const body = encodeBody(env, wrappedFederate);
-   jstring const answer =
-         static_cast<jstring>(env->CallObjectMethod(_rtiObject, _idGetFederateName_FH, body));
+   jstring const answer = static_cast<jstring>(env->CallObjectMethod(
+         _rtiObject, _idGetFederateName_FH, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<InvalidFederateHandle, FederateHandleNotKnown, MemberTail>>(env);
    return returnString(env, answer);
@@ -1767,8 +1763,8 @@ std::wstring RTIambassadorC::getObjectClassName(ObjectClassHandle theClass)
    MyEnv env;
    CppWrapper<ObjectClassHandle> wrappedClass(env, theClass);
    jbyteArray const body = encodeBody(env, wrappedClass);
-   jstring const answer =
-         static_cast<jstring>(env->CallObjectMethod(_rtiObject, _idGetObjectClassName_OCH, body));
+   jstring const answer = static_cast<jstring>(env->CallObjectMethod(
+         _rtiObject, _idGetObjectClassName_OCH, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<InvalidObjectClassHandle, MemberTail>>(env);
    return returnString(env, answer);
@@ -1804,9 +1800,8 @@ std::wstring RTIambassadorC::getObjectInstanceName(ObjectInstanceHandle theObjec
    MyEnv env;
    CppWrapper<ObjectInstanceHandle> wrappedObject(env, theObject);
    jbyteArray const body = encodeBody(env, wrappedObject);
-   jstring const answer =
-         static_cast<jstring>(env->CallObjectMethod(
-               _rtiObject, _idGetObjectInstanceName_OIH, body));
+   jstring const answer = static_cast<jstring>(env->CallObjectMethod(
+         _rtiObject, _idGetObjectInstanceName_OIH, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<ObjectInstanceNotKnown, MemberTail>>(env);
    return returnString(env, answer);
@@ -1834,8 +1829,8 @@ std::wstring RTIambassadorC::getAttributeName(ObjectClassHandle theClass,
    CppWrapper<ObjectClassHandle> wrappedClass(env, theClass);
    CppWrapper<AttributeHandle> wrappedAttribute(env, theAttribute);
    jbyteArray const body = encodeBody(env, wrappedClass, wrappedAttribute);
-   jstring const answer =
-         static_cast<jstring>(env->CallObjectMethod(_rtiObject, _idGetAttributeName_OCH_AH, body));
+   jstring const answer = static_cast<jstring>(env->CallObjectMethod(
+         _rtiObject, _idGetAttributeName_OCH_AH, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<AttributeNotDefined, InvalidAttributeHandle, InvalidObjectClassHandle,
          MemberTail>>(env);
@@ -1862,8 +1857,8 @@ double RTIambassadorC::getUpdateRateValueForAttribute(ObjectInstanceHandle theOb
    CppWrapper<ObjectInstanceHandle> wrappedObject(env, theObject);
    CppWrapper<AttributeHandle> wrappedAttribute(env, theAttribute);
    jbyteArray const body = encodeBody(env, wrappedObject, wrappedAttribute);
-   jdouble const answer =
-         env->CallDoubleMethod(_rtiObject, _idGetUpdateRateValueForAttribute_OIH_AH, body);
+   jdouble const answer = env->CallDoubleMethod(
+         _rtiObject, _idGetUpdateRateValueForAttribute_OIH_AH, body);
    env->DeleteLocalRef(body);
    throwPending<Ladder<ObjectInstanceNotKnown, AttributeNotDefined, MemberTail>>(env);
    return returnDouble(env, answer);
@@ -1887,9 +1882,8 @@ std::wstring RTIambassadorC::getInteractionClassName(InteractionClassHandle theI
    MyEnv env;
    CppWrapper<InteractionClassHandle> wrappedInteraction(env, theInteraction);
    jbyteArray const body = encodeBody(env, wrappedInteraction);
-   jstring const answer =
-         static_cast<jstring>(env->CallObjectMethod(
-               _rtiObject, _idGetInteractionClassName_ICH, body));
+   jstring const answer = static_cast<jstring>(env->CallObjectMethod(
+         _rtiObject, _idGetInteractionClassName_ICH, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<InvalidInteractionClassHandle, MemberTail>>(env);
    return returnString(env, answer);
@@ -1917,8 +1911,8 @@ std::wstring RTIambassadorC::getParameterName(InteractionClassHandle theInteract
    CppWrapper<InteractionClassHandle> wrappedInteraction(env, theInteraction);
    CppWrapper<ParameterHandle> wrappedParameter(env, theParameter);
    jbyteArray const body = encodeBody(env, wrappedInteraction, wrappedParameter);
-   jstring const answer =
-         static_cast<jstring>(env->CallObjectMethod(_rtiObject, _idGetParameterName_ICH_PH, body));
+   jstring const answer = static_cast<jstring>(env->CallObjectMethod(
+         _rtiObject, _idGetParameterName_ICH_PH, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<InteractionParameterNotDefined, InvalidParameterHandle,
          InvalidInteractionClassHandle, MemberTail>>(env);
@@ -1943,8 +1937,8 @@ std::wstring RTIambassadorC::getOrderName(OrderType theOrder)
    MyEnv env;
    CppWrapper<OrderType> wrappedOrder(env, theOrder);
    jbyteArray const body = encodeBody(env, wrappedOrder);
-   jstring const answer =
-         static_cast<jstring>(env->CallObjectMethod(_rtiObject, _idGetOrderName_OT, body));
+   jstring const answer = static_cast<jstring>(env->CallObjectMethod(
+         _rtiObject, _idGetOrderName_OT, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<InvalidOrderType, MemberTail>>(env);
    return returnString(env, answer);
@@ -1968,9 +1962,8 @@ std::wstring RTIambassadorC::getTransportationTypeName(TransportationType theTyp
    MyEnv env;
    CppWrapper<TransportationType> wrappedType(env, theType);
    jbyteArray const body = encodeBody(env, wrappedType);
-   jstring const answer =
-         static_cast<jstring>(env->CallObjectMethod(
-               _rtiObject, _idGetTransportationTypeName_TTH, body));
+   jstring const answer = static_cast<jstring>(env->CallObjectMethod(
+         _rtiObject, _idGetTransportationTypeName_TTH, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<InvalidTransportationType, MemberTail>>(env);
    return returnString(env, answer);
@@ -1984,9 +1977,8 @@ DimensionHandleSet RTIambassadorC::getAvailableDimensionsForClassAttribute(
    CppWrapper<ObjectClassHandle> wrappedClass(env, theClass);
    CppWrapper<AttributeHandle> wrappedAttribute(env, theAttribute);
    jbyteArray const body = encodeBody(env, wrappedClass, wrappedAttribute);
-   jintArray const answer =
-         static_cast<jintArray>(env->CallObjectMethod(
-               _rtiObject, _idGetAvailableDimensionsForClassAttribute_OCH_AH, body));
+   jintArray const answer = static_cast<jintArray>(env->CallObjectMethod(
+         _rtiObject, _idGetAvailableDimensionsForClassAttribute_OCH_AH, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<AttributeNotDefined, InvalidAttributeHandle, InvalidObjectClassHandle,
          MemberTail>>(env);
@@ -2000,9 +1992,8 @@ DimensionHandleSet RTIambassadorC::getAvailableDimensionsForInteractionClass(
    MyEnv env;
    CppWrapper<InteractionClassHandle> wrappedInteraction(env, theInteraction);
    jbyteArray const body = encodeBody(env, wrappedInteraction);
-   jintArray const answer =
-         static_cast<jintArray>(env->CallObjectMethod(
-               _rtiObject, _idGetAvailableDimensionsForInteractionClass_ICH, body));
+   jintArray const answer = static_cast<jintArray>(env->CallObjectMethod(
+         _rtiObject, _idGetAvailableDimensionsForInteractionClass_ICH, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<InvalidInteractionClassHandle, MemberTail>>(env);
    return returnDimensionHandleSet(env, answer);
@@ -2026,8 +2017,8 @@ std::wstring RTIambassadorC::getDimensionName(DimensionHandle theDimension)
    MyEnv env;
    CppWrapper<DimensionHandle> wrappedDimension(env, theDimension);
    jbyteArray const body = encodeBody(env, wrappedDimension);
-   jstring const answer =
-         static_cast<jstring>(env->CallObjectMethod(_rtiObject, _idGetDimensionName_DH, body));
+   jstring const answer = static_cast<jstring>(env->CallObjectMethod(
+         _rtiObject, _idGetDimensionName_DH, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<InvalidDimensionHandle, MemberTail>>(env);
    return returnString(env, answer);
@@ -2051,9 +2042,8 @@ DimensionHandleSet RTIambassadorC::getDimensionHandleSet(RegionHandle theRegion)
    MyEnv env;
    CppWrapper<RegionHandle> wrappedRegion(env, theRegion);
    jbyteArray const body = encodeBody(env, wrappedRegion);
-   jintArray const answer =
-         static_cast<jintArray>(env->CallObjectMethod(
-               _rtiObject, _idGetDimensionHandleSet_RH, body));
+   jintArray const answer = static_cast<jintArray>(env->CallObjectMethod(
+         _rtiObject, _idGetDimensionHandleSet_RH, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<InvalidRegion, CommonTail>>(env);
    return returnDimensionHandleSet(env, answer);
@@ -2066,8 +2056,8 @@ RangeBounds RTIambassadorC::getRangeBounds(RegionHandle theRegion, DimensionHand
    CppWrapper<RegionHandle> wrappedRegion(env, theRegion);
    CppWrapper<DimensionHandle> wrappedDimension(env, theDimension);
    jbyteArray const body = encodeBody(env, wrappedRegion, wrappedDimension);
-   jlongArray const answer =
-         static_cast<jlongArray>(env->CallObjectMethod(_rtiObject, _idGetRangeBounds_RH_DH, body));
+   jlongArray const answer = static_cast<jlongArray>(env->CallObjectMethod(
+         _rtiObject, _idGetRangeBounds_RH_DH, body));
    env->DeleteLocalRef(body);
    throwPending<Ladder<RegionDoesNotContainSpecifiedDimension, InvalidRegion, CommonTail>>(env);
    return returnRangeBounds(env, answer);
@@ -2223,8 +2213,8 @@ std::wstring RTIambassadorC::getTimeFactory()
 {
    ProtectFPU protectFPU;
    MyEnv env;
-   jstring const answer =
-         static_cast<jstring>(env->CallObjectMethod(_rtiObject, _idGetTimeFactory));
+   jstring const answer = static_cast<jstring>(env->CallObjectMethod(
+         _rtiObject, _idGetTimeFactory));
    throwPending<Ladder<>>(env);
    return returnString(env, answer);
 }

@@ -5,6 +5,7 @@ ambassador that records every callback, and a Java class that lacks one method.
    write_rows.py FOLDER
 """
 
+import re
 import sys
 from pathlib import Path
 
@@ -20,56 +21,37 @@ using namespace rti1516e;
 namespace contract {
 """
 
-# Where the public operation is not the service's name with the fields in their order; a number
-# stands for the field of that position.
-PUBLIC = {
-    "createFederationExecution_S_URLX_URL_S":
-        "rti.createFederationExecutionWithMIM({0}, {1}, {2}, {3})",
-    "getTransportationTypeHandle_S": "rti.getTransportationType({0})",
-    "getTransportationTypeName_TTH": "rti.getTransportationName({0})",
-    "subscribeInteractionClassWithRegions_ICH_Z_RHS":
-        "rti.subscribeInteractionClassWithRegions({0}, {2}, {1})",
+# What takes a result that comes by a parameter; the set already holds something.
+OUT = {
+    "AttributeHandleSet&": "AttributeHandleSet out{handle<AttributeHandle>(99)}",
+    "LogicalTime&": "LogicalTime& out = time",
+    "LogicalTimeInterval&": "LogicalTimeInterval& out = interval",
 }
 
-# Where a result comes by a parameter; this one already holds something.
-ASSIGNED = {
-    "attributeOwnershipDivestitureIfWanted_OIH_AHS":
-        "AttributeHandleSet out{{handle<AttributeHandle>(99)}};\n"
-        "   rti.attributeOwnershipDivestitureIfWanted({0}, {1}, out);\n"
-        "   return show(out);",
-    "queryGALT": 'std::string const valid = show(rti.queryGALT(time));\n'
-                 '   return valid + " " + show(time);',
-    "queryLITS": 'std::string const valid = show(rti.queryLITS(time));\n'
-                 '   return valid + " " + show(time);',
-    "queryLogicalTime": "rti.queryLogicalTime(time);\n   return show(time);",
-    "queryLookahead": "rti.queryLookahead(interval);\n   return show(interval);",
-}
 
-INFO = {"ref": "ReflectInfo", "rec": "ReceiveInfo", "rem": "RemoveInfo"}
+def code_of(field):
+    info = re.fullmatch(r"FASRI{(\w+)}", field.code)
+    return info[1] + "Info" if info else field.code.replace("{}", "X")
 
 
-def code_of(row, field):
-    if field.code == "FASRI":
-        return INFO[row.name[:3]]
-    return "SX" if field.code == "S{}" else field.code
-
-
-def argument(row, position, field):
-    code = code_of(row, field)
+def argument(position, field):
+    code = code_of(field)
     if code == "FA":
         return f"fields.federateAmbassador({position})"
     return ("*" if code in ("LT", "LTI") else "") + f"fields.at<{code}>({position})"
 
 
 def call(service):
-    arguments = [argument(service, i, field) for i, field in enumerate(service.fields)]
-    name = service.java_name
-    if name in ASSIGNED:
-        return ASSIGNED[name].format(*arguments)
-    public = PUBLIC.get(name, "rti." + service.name + "("
-                        + ", ".join("{%d}" % i for i in range(len(arguments))) + ")")
-    public = public.format(*arguments)
-    return f"return show({public});" if service.result else f'{public};\n   return "";'
+    operation = service.operation
+    arguments = [argument(service.fields.index(field), field) for field in operation.fields]
+    out = ["out"] if operation.out else []
+    public = f"rti.{operation.name}({', '.join(arguments + out)})"
+    if not out:
+        return f"return show({public});" if service.result else f'{public};\n   return "";'
+    shown = "show(out)"
+    if operation.result != "void":
+        public, shown = f"std::string const valid = show({public})", 'valid + " " + show(out)'
+    return f"{OUT[operation.out[0]]};\n   {public};\n   return {shown};"
 
 
 def service_rows(services):
@@ -83,8 +65,7 @@ def service_rows(services):
     out.append("   static std::vector<ServiceRow> const rows{")
     for i, service in enumerate(services):
         ladder = ", ".join(f'"{rung}"' for rung in service.ladder)
-        # The public form of the last row answers with a factory.
-        result = "factory" if service.java_name == "getTimeFactory" else service.result or ""
+        result = "factory" if service.result == "LTF" else service.result or ""
         out.append(f'      {{"{service.java_name}", "{service.signature}", '
                    f'"{result}", {{{ladder}}}, call{i}}},')
     out.append("   };\n   return rows;\n}\n\n} // namespace contract\n")
@@ -95,28 +76,17 @@ def callback_rows(callbacks):
     out = [HEAD]
     for i, callback in enumerate(callbacks):
         shown = ", ".join(
-            f"show(fields.at<{code_of(callback, field)}>({j}))"
+            f"show(fields.at<{code_of(field)}>({j}))"
             for j, field in enumerate(callback.fields))
         out.append(f"static Texts arguments{i}(Fields& fields)\n{{")
         out.append(f"   (void)fields;\n   return {{{shown}}};\n}}\n")
     out.append("std::vector<CallbackRow> const& callbackRows()\n{")
     out.append("   static std::vector<CallbackRow> const rows{")
     for i, callback in enumerate(callbacks):
-        has_time = "true" if "LT" in callback.codes else "false"
+        has_time = "true" if "LT" in (field.code for field in callback.fields) else "false"
         out.append(f'      {{"{callback.java_name}", {has_time}, arguments{i}}},')
     out.append("   };\n   return rows;\n}\n\n} // namespace contract\n")
     return "\n".join(out)
-
-
-BY_REFERENCE = {"S", "SX", "BX", "AHS", "FHS", "AHVM", "PHVM", "FHSSPX", "FRSX", "FEIS"}
-
-
-def parameter(callback, field, name):
-    code = code_of(callback, field)
-    if code == "LT":
-        return f"LogicalTime const& {name}"
-    by_reference = code in BY_REFERENCE and not field.by_value
-    return f"{code}::Native" + (" const& " if by_reference else " ") + name
 
 
 def recorder(callbacks):
@@ -125,7 +95,8 @@ def recorder(callbacks):
            "   explicit Recorder(CallbackRecord& record) : _record(record) {}\n"]
     for callback in callbacks:
         names = [f"value{i}" for i in range(len(callback.fields))]
-        parameters = ", ".join(map(parameter, [callback] * len(names), callback.fields, names))
+        parameters = ", ".join(
+            f"{rows.parameter(field)} {name}" for field, name in zip(callback.fields, names))
         shown = ", ".join(f"show({name})" for name in names)
         out.append(f"   void {callback.name}({parameters}) override\n   {{")
         out.append(f'      _record.add("{callback.java_name}", {{{shown}}});\n   }}\n')
