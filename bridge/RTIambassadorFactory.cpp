@@ -1,5 +1,5 @@
 // Where a federate begins: the factory of ambassadors, and the library's name and version.
-#include "bridge/RTIambassadorAdapter.h"
+#include "bridge/generated/RTIambassadorAdapter.h"
 #include <RTI/RTI1516.h>
 
 namespace rti1516e {

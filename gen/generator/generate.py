@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes everything that follows from the rows: gen/cpp_generated and standin/generated.
+"""Writes everything that follows from the rows: the folders whose names hold "generated".
 
    generate.py           writes the files and removes those that no row asks for any more
    generate.py --check   only compares; tells each file that differs and exits with 1
@@ -8,12 +8,13 @@
 import sys
 from pathlib import Path
 
+import adapter_writer
 import cpp_writer
 import java_writer
 import rows
 
 ROOT = Path(__file__).resolve().parent.parent.parent
-FOLDERS = ("gen/cpp_generated", "standin/generated")
+FOLDERS = ("bridge/generated", "gen/cpp_generated", "standin/generated")
 
 
 def wanted():
@@ -21,6 +22,7 @@ def wanted():
     callbacks = rows.read_callbacks()
     exceptions = rows.read_exceptions()
     texts = cpp_writer.files(services, tails, callbacks)
+    texts.update(adapter_writer.files(rows.read_operations()))
     texts.update(java_writer.files(services, callbacks, exceptions))
     return texts
 

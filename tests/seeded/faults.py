@@ -136,16 +136,16 @@ FAULTS = [
         "   env->CallVoidMethod(_rtiObject, _idDisconnect);\n", "")]),
     ("the first handle is 0", "gen/cpp/HandleTable.cpp", [(
         "int nextHandle;", "int nextHandle = slots - 1;")]),
-    ("divested attributes are added to the set", "bridge/RTIambassadorAdapter.cpp", [(
+    ("divested attributes are added to the set", "bridge/generated/RTIambassadorAdapter.cpp", [(
         "theDivestedAttributes = *_rti->attributeOwnershipDivestitureIfWanted("
         "theObject, theAttributes);",
         "auto const divested = _rti->attributeOwnershipDivestitureIfWanted("
         "theObject, theAttributes);\n"
         "   theDivestedAttributes.insert(divested->begin(), divested->end());")]),
     ("an exception missing in the adapter's list",
-     "bridge/RTIambassadorAdapter.h bridge/RTIambassadorAdapter.cpp", [(
+     "bridge/generated/RTIambassadorAdapter.h bridge/generated/RTIambassadorAdapter.cpp", [(
         "RTI_THROW((IllegalName, NameSetWasEmpty, RTI_COMMON_TAIL))",
         "RTI_THROW((IllegalName, RTI_COMMON_TAIL))")]),
-    ("no time, told as one", "bridge/RTIambassadorAdapterTimeAndSupport.cpp", [(
+    ("no time, told as one", "bridge/Answers.h", [(
         "   return answer.first;", "   return true;")]),
 ]

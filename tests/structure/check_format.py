@@ -14,7 +14,7 @@ ROOMS = ("api", "bench", "bridge", "encoding", "examples", "fedtime", "fuzz", "g
 def main():
     files = [
         str(path) for room in ROOMS for path in sorted((ROOT / room).rglob("*"))
-        if path.suffix in (".h", ".cpp") and "cpp_generated" not in path.parts
+        if path.suffix in (".h", ".cpp") and "generated" not in path.parent.name
     ]
     result = subprocess.run(["clang-format", "--dry-run", "-Werror", *files], check=False)
     print(f"{len(files)} files")
