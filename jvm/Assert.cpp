@@ -1,3 +1,4 @@
+// A failed assertion ends as the platform's own does, also where that one is compiled out.
 #include "jvm/Assert.h"
 
 #include <cassert>

@@ -1,16 +1,17 @@
+// Start-up: finds installation and VM library, joins the VM that is there or creates one.
 #include "jvm/JVM.h"
 
 #include "jvm/FpuGuards.h"
+#include "jvm/Installation.h"
 #include "jvm/Platform.h"
+#include "jvm/Report.h"
+#include "jvm/StartTexts.h"
 #include "jvm/Text.h"
-#include <RTI/Exception.h>
 #include <tarn1516e/mutex.h>
 
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <dlfcn.h>
-#include <fstream>
 #include <unistd.h>
 
 void tarn1516e_exported_symbol_for_dlsym() {}
@@ -25,36 +26,17 @@ namespace {
 
 mutex _jvmMutex; // held through all of JVM::instance()
 
-bool trace; // set at each start-up
+Trace trace; // set at each start-up
 
 jint (*getCreatedJavaVMs_FPtr)(JavaVM**, jsize, jsize*);
 jint (*createJavaVM_Fptr)(JavaVM**, void**, void*);
 
 int const optionLimit = 50; // entries that the option file may fill
 
-void traceLine(std::string const& text)
-{
-   if (trace) {
-      std::fprintf(stderr, "TARN1516E_TRACE_LOAD: %s\n", text.c_str());
-   }
-}
-
-[[noreturn]] void fail(std::wstring const& text)
-{
-   std::fprintf(stderr, "%s", wstring2string(text).c_str());
-   throw rti1516e::RTIinternalError(text);
-}
-
-[[noreturn]] void fail(std::string const& text)
-{
-   fail(string2wstring(text));
-}
-
-// `pattern` has one %ls, for the status.
-void failIfNegative(jint status, wchar_t const* pattern)
+void failIfNegative(jint status, char const* pattern)
 {
    if (status < 0) {
-      fail(wformat(pattern, jniResult(status).c_str()));
+      fail(filled(pattern, {wstring2string(jniResult(status))}));
    }
 }
 
@@ -83,24 +65,24 @@ bool JVM::isShared()
 
 void JVM::start()
 {
-   trace = isSet("TARN1516E_TRACE_LOAD");
-   traceLine("Starting tarn1516e library");
+   trace.readEnvironment();
+   trace("Starting tarn1516e library");
    DefaultFPU defaultFPU;
-   traceLine("Current directory '" + get_current_path() + "'");
+   trace("Current directory '" + get_current_path() + "'");
 
    std::string const home = findTarnHome();
    if (home.empty()) {
-      traceLine("Tarn home not found. Will use PATH/CLASSPATH");
+      trace("Tarn home not found. Will use PATH/CLASSPATH");
    } else {
-      traceLine("Tarn home found at  '" + home + "'");
+      trace("Tarn home found at  '" + home + "'");
    }
    loadJvm(home);
 
-   traceLine("Checking for existing JVM");
+   trace("Checking for existing JVM");
    jsize count = 0;
    jint const result = getCreatedJavaVMs_FPtr(&_jvm, 1, &count);
-   traceLine(format("getCreatedJavaVMs: %ls nVMcount = %d\n", jniResult(result).c_str(), count));
-   failIfNegative(result, L"Cannot check for existing JVM. Error: %ls\n");
+   trace(format("getCreatedJavaVMs: %ls nVMcount = %d\n", jniResult(result).c_str(), count));
+   failIfNegative(result, text::notChecked);
 
    if (count < 1) {
       create(home);
@@ -121,28 +103,28 @@ void JVM::create(std::string const& home)
    args.options = options;
    args.ignoreUnrecognized = JNI_TRUE;
 
-   traceLine("Attempting to create new JVM");
+   trace(text::creating);
    JNIEnv* env = nullptr;
    jint const result = createJavaVM_Fptr(&_jvm, reinterpret_cast<void**>(&env), &args);
    for (int i = 0; i < optionCount; ++i) {
       delete[] options[i].optionString;
    }
-   failIfNegative(result, L"Cannot create JVM. Error: %ls\n");
+   failIfNegative(result, text::notCreated);
    _instance = env;
    _isShared = false;
-   traceLine("Created new JVM");
+   trace(text::created);
 }
 
 void JVM::attach()
 {
-   traceLine("Attempting to attach to existing JVM");
+   trace(text::attaching);
    JNIEnv* env = nullptr;
    jint const result = _jvm->AttachCurrentThread(reinterpret_cast<void**>(&env), nullptr);
-   traceLine(format("AttachCurrentThread return value: %ls", jniResult(result).c_str()));
-   failIfNegative(result, L"Cannot attach to existing JVM. Error: %ls\n");
+   trace(format("AttachCurrentThread return value: %ls", jniResult(result).c_str()));
+   failIfNegative(result, text::notAttached);
    _instance = env;
    _isShared = true;
-   traceLine("Attached to existing JVM");
+   trace(text::attached);
 }
 
 std::wstring jniResult(long status)
@@ -177,41 +159,19 @@ std::string get_current_path()
 
 std::string findTarnHome()
 {
-   Dl_info library;
-   if (dladdr(reinterpret_cast<void*>(&tarn1516e_exported_symbol_for_dlsym), &library) == 0) {
-      fail("Failed to find path to tarn1516e library\n");
+   char const* const path = libraryFile();
+   if (path == nullptr) {
+      fail(text::noLibraryFile);
    }
-   std::string const path = library.dli_fname;
-   if (!path.empty()) {
-      traceLine("Loaded tarn1516e library from '" + path + "'");
-      std::string candidate = getDirName(path) + "../../";
-      if (isTarnHome(candidate)) {
-         return candidate;
-      }
+   if (*path != '\0') {
+      trace("Loaded tarn1516e library from '" + std::string(path) + "'");
    }
-   if (char const* const value = std::getenv("TARN1516E_HOME")) {
-      std::string candidate = std::string(value) + "/";
+   for (std::string const& candidate : homeCandidates(path)) {
       if (isTarnHome(candidate)) {
          return candidate;
       }
    }
    return std::string();
-}
-
-bool isTarnHome(std::string const& directory)
-{
-   return fileExists(directory + "versioninfo.txt");
-}
-
-bool fileExists(std::string const& path)
-{
-   return access(path.c_str(), F_OK) == 0;
-}
-
-std::string getDirName(std::string const& path)
-{
-   std::string::size_type const slash = path.rfind('/');
-   return slash == std::string::npos ? path : path.substr(0, slash + 1);
 }
 
 namespace {
@@ -221,7 +181,7 @@ void* openJvm(std::string const& home)
 {
    int const mode = RTLD_NOW | RTLD_GLOBAL;
    if (void* const handle = dlopen(vmLibraryName, mode)) {
-      traceLine("JVM was available on library path");
+      trace(text::vmOnLibraryPath);
       return handle;
    }
    if (home.empty()) {
@@ -229,13 +189,13 @@ void* openJvm(std::string const& home)
    }
    std::string const path = findJvm(home);
    if (path.empty()) {
-      fail("Failed to find JVM in Tarn installation\n");
+      fail(text::noVmInHome);
    }
    void* const handle = dlopen(path.c_str(), mode);
    if (handle == nullptr) {
-      fail("Failed to dlopen JVM at '" + path + "', dlerror: " + dlerror() + "\n");
+      fail(filled(text::vmNotLoaded, {path, dlerror()}));
    }
-   traceLine("Using bundled JVM in '" + path + "'");
+   trace("Using bundled JVM in '" + path + "'");
    return handle;
 }
 
@@ -245,7 +205,7 @@ void findEntryPoint(void* handle, char const* name, Function& function)
    function = reinterpret_cast<Function>(dlsym(handle, name));
    if (function == nullptr) {
       char const* const error = dlerror();
-      fail(std::string("Failed to find ") + name + ", dlerror: " + (error ? error : "") + "\n");
+      fail(filled(text::noEntryPoint, {name, error != nullptr ? error : ""}));
    }
 }
 
@@ -261,23 +221,20 @@ void loadJvm(std::string const& home)
 std::string findJvm(std::string const& home)
 {
    std::string path = home + vmBelowHome;
-   traceLine("Looking for JVM at '" + path + "'");
+   trace("Looking for JVM at '" + path + "'");
    if (!fileExists(path)) {
       return std::string();
    }
-   traceLine("Found JVM at '" + path + "'");
+   trace("Found JVM at '" + path + "'");
    return path;
 }
 
 void reportJvmLoadingError(char const* variable)
 {
    char const* const value = std::getenv(variable);
-   std::wstring const name = string2wstring(variable);
-   std::wstring const pattern = L"Failed to find JVM on " + name
-         + L" and unable to locate Tarn installation\n" + name + L": %ls";
-   std::wstring const text =
-         wformat(pattern.c_str(), string2wstring(value ? value : "(unknown)").c_str());
-   traceLine(wstring2string(text));
+   std::string const text =
+         format(text::noVm, variable, variable, value != nullptr ? value : "(unknown)");
+   trace(text);
    fail(text);
 }
 
@@ -294,18 +251,11 @@ char* allocString(std::string const& text)
 
 std::string classPathOption(std::string const& home)
 {
-   std::string option = "-Djava.class.path=";
-   if (char const* const value = std::getenv("CLASSPATH")) {
-      option += value;
-   }
-   std::string const jar = home + "lib/tarn1516e.jar";
-   if (fileExists(jar)) {
-      option += ":" + jar;
-      traceLine("Tarn java libs found in '" + jar + "'");
-   } else {
-      traceLine("No Tarn java libs found in '" + jar + "'");
-   }
-   traceLine("Setting classpath to '" + option + "'");
+   std::string const jar = home + jarBelowHome;
+   trace((fileExists(jar) ? "Tarn java libs found in '" : "No Tarn java libs found in '") + jar
+         + "'");
+   std::string const option = "-Djava.class.path=" + classPath(home);
+   trace("Setting classpath to '" + option + "'");
    return option;
 }
 
@@ -323,18 +273,8 @@ void loadOptions(JavaVMOption* options, int& optionCount, int maxOptions, std::s
    append(isSet("TARN_ENABLEBUNDLING") ? "-DenableBundling=true" : "");
    append(isSet("TARN_SINGLETHREAD") ? "-Dsinglethread=true" : "");
    append(isSet("TARN_VERBOSEJNI") ? "-verbose:jni" : "");
-   for (int i = 1; i <= 19; ++i) {
-      if (char const* const value = std::getenv(format("TARN1516_OPTION%d", i).c_str())) {
-         append(value);
-      }
-   }
-   std::ifstream file("tarn.vmoptions");
-   std::string line;
-   while (file.good() && optionCount < maxOptions) {
-      std::getline(file, line);
-      if (!line.empty() && line[0] != '#') {
-         append(line);
-      }
+   for (GivenOption const& option : givenOptions(maxOptions - optionCount)) {
+      append(option.text);
    }
    if (!hasOption(optionCount, options, "-Xss")) {
       options[optionCount].extraInfo = nullptr;

@@ -3,15 +3,15 @@
 #define jvm_JVM_h
 
 #include <jni.h>
-#include <RTI/SpecificConfig.h>
 #include <string>
 
 namespace tarn1516e {
 
 class JVM {
 public:
-   // The calling thread's environment. The first call brings the VM up, under a lock; a failure is
-   // an RTIinternalError and leaves everything as it was, so that the next call starts over.
+   // The calling thread's environment. The first call brings the VM up, under a lock. A failure is
+   // an RTIinternalError, and the next call starts over, with the environment as it is then; a VM
+   // library that was loaded stays and comes first.
    static JNIEnv* instance();
 
    // Whether the VM was in the process before this library.
@@ -61,16 +61,10 @@ void loadOptions(JavaVMOption* options, int& optionCount, int maxOptions, std::s
 // What they are made of.
 std::string get_current_path();
 std::wstring jniResult(long status);
-bool isTarnHome(std::string const& directory);
-bool fileExists(std::string const& path);
-std::string getDirName(std::string const& path);
 std::string findJvm(std::string const& home);
 [[noreturn]] void reportJvmLoadingError(char const* variable);
 bool hasOption(int& optionCount, JavaVMOption* options, char const* prefix);
 
 } // namespace tarn1516e
-
-// An address inside this library, by which it finds the file that it was loaded from.
-extern "C" RTI_EXPORT void tarn1516e_exported_symbol_for_dlsym();
 
 #endif

@@ -1,3 +1,4 @@
+// Formatting with a bound, and the two widths of character, without any locale's say.
 #include "jvm/Text.h"
 
 #include <cstdarg>
@@ -32,6 +33,18 @@ std::wstring wformat(wchar_t const* pattern, ...)
    va_end(arguments);
    buffer[capacity - 1] = L'\0';
    return buffer;
+}
+
+std::string filled(char const* pattern, std::initializer_list<std::string> values)
+{
+   std::string text = pattern;
+   std::string::size_type place = 0;
+   for (std::string const& value : values) {
+      place = text.find("%s", place);
+      text.replace(place, 2, value);
+      place += value.size();
+   }
+   return text;
 }
 
 std::string wstring2string(std::wstring const& wide)

@@ -6,10 +6,12 @@
 #include "gen/cpp/ServiceFrame.h"
 #include "gen/cpp_generated/RTIambassadorC.h"
 #include "jvm/FpuGuards.h"
+#include "jvm/Installation.h"
 #include "jvm/JVM.h"
+#include "jvm/Report.h"
+#include "jvm/StartTexts.h"
 #include "jvm/Text.h"
 
-#include <cstdio>
 #include <cstdlib>
 
 using namespace rti1516e;
@@ -18,20 +20,7 @@ namespace tarn1516e {
 
 namespace {
 
-bool trace; // set by each construction
-
-void traceLine(std::string const& text)
-{
-   if (trace) {
-      std::fprintf(stderr, "TARN1516E_TRACE_LOAD: %s\n", text.c_str());
-   }
-}
-
-[[noreturn]] void fail(std::wstring const& text)
-{
-   std::fprintf(stderr, "%ls", text.c_str());
-   throw RTIinternalError(text);
-}
+Trace trace; // set by each construction
 
 // Throws what the Java constructor raised.
 void throwConstructorFailure(JNIEnv* env)
@@ -49,20 +38,20 @@ void throwConstructorFailure(JNIEnv* env)
    throw RTIinternalError(L"Cannot create RTIambassador object");
 }
 
-jobject newRtiObject(JNIEnv* env, jclass adapterClass)
+jobject newRtiObject(JNIEnv* env, jclass type)
 {
-   jmethodID const constructor = env->GetMethodID(adapterClass, "<init>", "([B)V");
+   jmethodID const constructor = env->GetMethodID(type, "<init>", "([B)V");
    if (constructor == nullptr) {
-      fail(L"Cannot locate constructor for Java class skerry.tarn1516e.RTIambassadorC2007");
+      fail(text::noConstructor);
    }
    std::vector<std::wstring> const arguments; // none so far
    CppWrapper<std::vector<std::wstring> const&> wrappedArguments(env, arguments);
    jbyteArray const body = encodeBody(env, wrappedArguments);
-   jobject const object = env->NewObject(adapterClass, constructor, body);
+   jobject const object = env->NewObject(type, constructor, body);
    env->DeleteLocalRef(body);
    throwConstructorFailure(env);
    if (object == nullptr) {
-      fail(L"Cannot create RTIambassador object. Constructor returned NULL\n");
+      fail(text::noObject);
    }
    return object;
 }
@@ -72,25 +61,25 @@ jobject newRtiObject(JNIEnv* env, jclass adapterClass)
 RTIambassadorC::RTIambassadorC() : _rtiObject(nullptr)
 {
    ProtectFPU protectFPU;
-   trace = std::getenv("TARN1516E_TRACE_LOAD") != nullptr;
+   trace.readEnvironment();
    JNIEnv* const env = JVM::instance();
    setCatchAll(std::getenv("TARN1516_DONTCATCHALL") == nullptr);
 
-   traceLine("Locating core classes");
-   if (env->FindClass("skerry/tarn1516e/RtiFactoryImpl") == nullptr) {
-      traceLine("Failed to locate core classes");
+   trace("Locating core classes");
+   if (env->FindClass(coreClass) == nullptr) {
+      trace(text::coreNotLocated);
       reportClassLoadingError(env, L"core");
    }
-   traceLine("Locating adapter classes");
-   jclass const adapterClass = env->FindClass("skerry/tarn1516e/RTIambassadorC2007");
-   if (adapterClass == nullptr) {
-      traceLine("Failed to locate adapter classes");
+   trace(text::locatingAdapter);
+   jclass const adapter = env->FindClass(adapterClass);
+   if (adapter == nullptr) {
+      trace(text::adapterNotLocated);
       reportClassLoadingError(env, L"adapter");
    }
-   initRtiJmethods(env, adapterClass);
+   initRtiJmethods(env, adapter);
    registerNatives(env);
 
-   jobject const object = newRtiObject(env, adapterClass);
+   jobject const object = newRtiObject(env, adapter);
    _rtiObject = env->NewGlobalRef(object);
    env->DeleteLocalRef(object);
 }
@@ -110,12 +99,10 @@ void RTIambassadorC::reportClassLoadingError(JNIEnv* env, std::wstring const& wh
       env->ExceptionDescribe();
       env->ExceptionClear();
    }
-   char const* const classPath = std::getenv("CLASSPATH");
-   std::wstring const pattern = std::wstring(L"Tarn failed to load %ls classes in ")
-         + (JVM::isShared() ? L"existing" : L"new") + L" JVM.\nCLASSPATH: %ls";
-   std::wstring const text = wformat(pattern.c_str(), which.c_str(),
-         string2wstring(classPath != nullptr ? classPath : "(unknown)").c_str());
-   traceLine(wstring2string(text));
+   char const* const path = std::getenv("CLASSPATH");
+   std::string const text = format(text::noClasses, wstring2string(which).c_str(),
+         JVM::isShared() ? "existing" : "new", path != nullptr ? path : "(unknown)");
+   trace(text);
    fail(text);
 }
 

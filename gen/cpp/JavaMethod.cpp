@@ -2,6 +2,7 @@
 #include "gen/cpp/JavaMethod.h"
 
 #include "jvm/Assert.h"
+#include "jvm/StartTexts.h"
 
 #include <cstdio>
 
@@ -11,7 +12,7 @@ jmethodID bind(JNIEnv* env, jclass type, char const* name, char const* signature
 {
    jmethodID const id = env->GetMethodID(type, name, signature);
    if (id == nullptr) {
-      std::fprintf(stderr, "Cannot locate %s.\n", name);
+      std::fprintf(stderr, text::noMethod, name);
    }
    TARN_ASSERT(id != 0);
    return id;

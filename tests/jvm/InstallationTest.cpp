@@ -1,4 +1,5 @@
 // Where the library looks for its installation and the VM in it.
+#include "jvm/Installation.h"
 #include "jvm/JVM.h"
 #include "jvm/Platform.h"
 #include "tests/support/Scratch.h"

@@ -229,6 +229,8 @@ TEST(Failure, OfTheJavaClasses)
          behind("adapter class", {"VM_LACKS=RTIambassadorC2007", "CLASSPATH=a.jar:b"}, "",
                adapter + "a.jar:b", adapter + "a.jar:b"),
          behind("both", {"VM_LACKS=skerry", "CLASSPATH="}, "", core, core),
+         behind("a class path beyond ASCII", {"VM_LACKS=skerry", "CLASSPATH=/\xc3\xa9"}, "",
+               core + "/\xc3\xa9", core + "/\xc3\xa9"),
          behind("object", {}, "RegisterNatives 60\n" + constructed, null, null),
          behind("class of the natives", {"VM_LACKS=FederateAmbassadorC2007"}, constructed, null,
                noJar + null),

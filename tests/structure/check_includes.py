@@ -17,7 +17,7 @@ MAY_INCLUDE = {
     "fedtime": ("api/",),
     "gen": ("api/", "jvm/"),
     "bridge": ("api/", "jvm/", "gen/"),
-    "tools": ("api/", "jvm/Platform.h"),
+    "tools": ("api/", "jvm/"),
 }
 JNI_ROOMS = ("jvm", "gen", "bridge", "tools")
 
