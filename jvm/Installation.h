@@ -33,6 +33,7 @@ std::vector<std::string> homeCandidates(std::string const& libraryFile);
 // Java names have '/' between their parts.
 char const coreClass[] = "skerry/tarn1516e/RtiFactoryImpl";
 char const adapterClass[] = "skerry/tarn1516e/RTIambassadorC2007";
+char const nativesClass[] = "skerry/tarn1516e/FederateAmbassadorC2007";
 
 // CLASSPATH, and the home's jar if it is there.
 std::string classPath(std::string const& home);

@@ -185,6 +185,8 @@ NATIVES = """
 // names that a VM would look for.
 #include "gen/cpp/CallbackFrame.h"
 #include "gen/cpp/Decoder.h"
+#include "jvm/Installation.h"
+#include "jvm/StartTexts.h"
 
 #include <cstdio>
 
@@ -208,20 +210,20 @@ JNINativeMethod native(char const* name, void (*function)(JNIEnv*, jobject, jbyt
 
 void registerNatives(JNIEnv* env)
 {{
-   jclass const type = env->FindClass("skerry/tarn1516e/FederateAmbassadorC2007");
+   jclass const type = env->FindClass(nativesClass);
    if (env->ExceptionOccurred() != nullptr) {{
       env->ExceptionDescribe();
       env->ExceptionClear();
    }}
    if (type == nullptr) {{
-      std::fprintf(stderr, "The file tarn1516e.jar can not be found in the CLASSPATH.\\n");
+      std::fputs(text::noNativesClass, stderr);
       return;
    }}
    JNINativeMethod const nm[] = {{
 {table}
    }};
    if (env->RegisterNatives(type, nm, sizeof nm / sizeof *nm) != 0) {{
-      std::fprintf(stderr, "Failed to register native functions.\\n");
+      std::fputs(text::nativesRefused, stderr);
       env->ExceptionClear(); // the ambassador is made all the same
    }}
    env->DeleteLocalRef(type);

@@ -127,7 +127,7 @@ FAULTS = [
         'env->GetMethodID(type, "getMessage", "()Ljava/lang/String;"));')]),
     ("another text for unknown exceptions", EXCEPTIONS, [(
         '"Unhandled exception"', '"Unhandled exception."')]),
-    ("another text for a missing method", "gen/cpp/JavaMethod.cpp", [(
+    ("another text for a missing method", "jvm/StartTexts.h", [(
         "Cannot locate %s.\\n", "Cannot find %s.\\n")]),
     ("unknown exceptions pass when they are to be caught", BRIDGE, [(
         'std::getenv("TARN1516_DONTCATCHALL") == nullptr',
