@@ -22,7 +22,7 @@ set(PACKAGE_DIR lib/cmake/tarn1516e)
 
 # ---- Run time
 
-install(TARGETS rti1516e fedtime1516e EXPORT tarn1516e
+install(TARGETS rti1516e rti1516e-own-time fedtime1516e EXPORT tarn1516e
    LIBRARY DESTINATION ${LIBRARY_DIR} COMPONENT runtime NAMELINK_COMPONENT development)
 install(FILES ${PROJECT_BINARY_DIR}/versioninfo.txt DESTINATION . COMPONENT runtime)
 install(TARGETS tarn1516e-check EXPORT tarn1516e RUNTIME DESTINATION bin COMPONENT runtime)
@@ -48,6 +48,12 @@ install(FILES
    ${PROJECT_BINARY_DIR}/install/tarn1516eConfig.cmake
    ${PROJECT_BINARY_DIR}/install/tarn1516eConfigVersion.cmake
    DESTINATION ${PACKAGE_DIR} COMPONENT development)
+# The time library first: it has a symbol of the other one's, and may be all that a program calls.
+# It stays though a program calls nothing of it: so one of the federate's own, found first, is loaded.
+set(PC_LIBS "-lfedtime1516e -lrti1516e")
+if(NOT APPLE)
+   set(PC_LIBS "-Wl,--push-state,--no-as-needed ${PC_LIBS} -Wl,--pop-state")
+endif()
 configure_file(cmake/tarn1516e.pc.in install/tarn1516e.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/install/tarn1516e.pc
    DESTINATION lib/pkgconfig COMPONENT development)

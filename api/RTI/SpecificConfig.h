@@ -9,13 +9,16 @@
 // RTI_THROW((A, B)): the exception list of an operation. Up to C++14 the language enforces it: an
 // exception of a class outside the list ends the process through std::unexpected. From C++17 on
 // the language has no such lists and the macro yields nothing; the library enforces its own lists
-// for every caller, since it is compiled with them. Inner parentheses hold the list together.
+// for every caller, since it is compiled with them. Inner parentheses hold the list together. A
+// definition from outside, as by -DRTI_THROW(list)=, stands.
 //
 // RTI_NOEXCEPT: an operation that lets no exception out.
+#ifndef RTI_THROW
 #if __cplusplus >= 201703L
 #define RTI_THROW(list)
 #else
 #define RTI_THROW(list) throw list
+#endif
 #endif
 
 #if __cplusplus >= 201103L

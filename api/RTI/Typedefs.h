@@ -71,8 +71,8 @@ public:
 
 typedef std::vector<FederationExecutionInformation> FederationExecutionInformationVector;
 
-/// What may come with a reflection. A field holds something only if its flag is set; the
-/// constructor that takes a value sets the flag.
+/// What may come with a reflection: ask hasProducingFederate for the one field, and the other one
+/// itself, by sentRegions.empty().
 class RTI_EXPORT SupplementalReflectInfo {
 public:
    /// Holds what is given; the default constructor, nothing.
@@ -82,18 +82,22 @@ public:
    SupplementalReflectInfo(
          FederateHandle const& producingFederate, RegionHandleSet const& sentRegions);
 
-   /// Whether the field of that name holds something.
+   /// Whether producingFederate holds something.
    bool hasProducingFederate;
+
+   /// Only the constructors set it: in a reflection it is false although regions came. Look at
+   /// sentRegions instead.
    bool hasSentRegions;
 
    /// The federate that sent the update; invalid without its flag.
    FederateHandle producingFederate;
 
-   /// The regions that the update was sent with; empty without its flag.
+   /// The regions that the update was sent with; empty if there were none.
    RegionHandleSet sentRegions;
 };
 
-/// What may come with an interaction, in the manner of SupplementalReflectInfo.
+/// What may come with an interaction. A field holds something only if its flag is set; the
+/// constructor that takes a value sets the flag.
 class RTI_EXPORT SupplementalReceiveInfo {
 public:
    /// Holds what is given; the default constructor, nothing.

@@ -9,19 +9,36 @@ import sdk
 PROGRAMS = (
     ("demo", "14 messages sent, 14 compared on arrival, 0 differences"),
     ("pilotage", "The ship is in harbour."),
+    ("tides", "TideTime: tide 2 + 90 min\nHLAfloat64Time: 06:30\n"),
 )
+
+# Calls the time library and nothing else.
+TIMES_ONLY = """
+#include <RTI/LogicalTimeFactory.h>
+int main()
+{
+   return rti1516e::LogicalTimeFactoryFactory::makeLogicalTimeFactory(L"").get() == 0;
+}
+"""
+
+# As some toolchains have it without a word: what a program does not call is not linked.
+DROPPING = "-Wl,--as-needed"
 
 
 def build_by_cmake(to, home, sources, out):
     sdk.run(to.cmake, "-S", sources, "-B", out, "-G", "Ninja", f"-DCMAKE_PREFIX_PATH={home}",
-            f"-DCMAKE_CXX_COMPILER={to.compiler}")
+            f"-DCMAKE_CXX_COMPILER={to.compiler}", f"-DCMAKE_EXE_LINKER_FLAGS={DROPPING}")
     sdk.run(to.cmake, "--build", out)
 
 
 def build_by_make(to, home, sources, out):
     # A make of which another one is the parent would take over that one's settings.
     sdk.run("make", "-C", sources, f"OUT={out}", f"CXX={to.compiler}",
-            f"PKG_CONFIG_PATH={home}/lib/pkgconfig")
+            f"PKG_CONFIG_PATH={home}/lib/pkgconfig", f"LDFLAGS={DROPPING}")
+    (out / "times.cpp").write_text(TIMES_ONLY)
+    sdk.run("sh", "-ec", f"{to.compiler} times.cpp {DROPPING}"
+            " $(pkg-config --cflags --libs tarn1516e) -o times",
+            cwd=out, env={"PKG_CONFIG_PATH": home / "lib/pkgconfig"})
 
 
 def ask_for_components(to, home, folder, differences):

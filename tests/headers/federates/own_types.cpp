@@ -1,6 +1,7 @@
 // A federate's own ambassador, time, interval, time factory and data element. Up to C++14 they
 // repeat the exception lists of what they override. They are declared only: nothing is linked.
 // compile: 98 11 14 -Wno-deprecated -Wno-deprecated-declarations
+// compile: 98 11 14 17 20 2b -DRTI_THROW(list)= -Wno-deprecated -Wno-deprecated-declarations
 // compile: 17 20 2b -Wno-deprecated-declarations
 #include <RTI/encoding/DataElement.h>
 #include <RTI/LogicalTimeFactory.h>
