@@ -74,8 +74,8 @@ Reference local(Object* object)
 std::mutex namesMutex; // start-up may come from several threads
 std::map<std::string, Object> classes;
 std::map<std::string, Method> methods;
-std::map<std::string, std::vector<script::Answer>> answers;
-std::vector<script::Call> calls;
+std::map<std::string, std::vector<java::Answer>> answers;
+std::vector<java::Call> calls;
 Object thing, bodyArray, firedArray, result, raised;
 bool isPending; // `raised`
 
@@ -159,9 +159,9 @@ jint throwNew(JNIEnv*, jclass type, char const* message)
 // ---- Calls
 
 // Keeps the call; gives the answer, or null for none.
-script::Answer const* called(jobject object, jmethodID id, va_list arguments)
+java::Answer const* called(jobject object, jmethodID id, va_list arguments)
 {
-   static script::Answer answer;
+   static java::Answer answer;
    Method const& method = *reinterpret_cast<Method*>(id);
    bool const hasBody = method.signature[1] == '[';
    if (hasBody) {
@@ -175,7 +175,7 @@ script::Answer const* called(jobject object, jmethodID id, va_list arguments)
    if (answers.empty() || answers.count(method.name) == 0) {
       return nullptr;
    }
-   std::vector<script::Answer>& waiting = answers[method.name];
+   std::vector<java::Answer>& waiting = answers[method.name];
    answer = waiting.front();
    waiting.erase(waiting.begin());
    if (waiting.empty()) {
@@ -192,7 +192,7 @@ script::Answer const* called(jobject object, jmethodID id, va_list arguments)
 template <class Number>
 Number calledForNumber(JNIEnv*, jobject object, jmethodID method, va_list arguments)
 {
-   script::Answer const* const answer = called(object, method, arguments);
+   java::Answer const* const answer = called(object, method, arguments);
    std::int64_t const bits = answer != nullptr ? answer->numbers.at(0) : 0;
    Number number = static_cast<Number>(bits);
    if (std::is_floating_point<Number>::value) {
@@ -215,7 +215,7 @@ jobject calledForObject(JNIEnv*, jobject object, jmethodID id, va_list arguments
       setText(result, text);
       return local<jobject>(&result);
    }
-   script::Answer const* const answer = called(object, id, arguments);
+   java::Answer const* const answer = called(object, id, arguments);
    if (answer == nullptr) {
       bool const isText = method.signature.find(")Ljava/lang/String;") != std::string::npos;
       result.text.clear();
@@ -378,7 +378,7 @@ JNIEnv* environment()
 
 } // namespace bare
 
-namespace script {
+namespace java {
 
 void reset(bool)
 {
@@ -416,7 +416,7 @@ std::wstring fire(std::string const& native, std::string const& frame, bool)
 LocalFrame::LocalFrame() {}
 LocalFrame::~LocalFrame() {}
 
-} // namespace script
+} // namespace java
 
 extern "C" JNIEXPORT jint JNICALL JNI_GetCreatedJavaVMs(JavaVM** vms, jsize size, jsize* count)
 {

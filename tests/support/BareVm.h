@@ -1,6 +1,6 @@
 // A Java VM without Java: what the library asks of one, answered by C++. It bears the real one's
 // name, so that the library finds it in the program that is linked with it, or where a test has
-// laid it. Scripts tell it what to answer. It makes no native allocation for a call that it does
+// laid it. Tests tell it what to answer. It makes no native allocation for a call that it does
 // not keep.
 //
 // It is also the VM of start-up's trials, and goes by these variables:
@@ -18,7 +18,7 @@
 #ifndef tests_support_BareVm_h
 #define tests_support_BareVm_h
 
-#include "tests/support/Script.h"
+#include "tests/support/JavaSide.h"
 
 #include <jni.h>
 #include <map>

@@ -1,49 +1,17 @@
-// What a test tells the other side of the bridge, and what it asks it: answers of methods, calls
-// that arrived, frames for natives. Two other sides stand behind this face: the stand-in in a Java
-// VM (JavaScript.cpp), and a VM that is none (BareVm.cpp). Needs a VM that the library has brought
-// up.
+// The script face of the Java stand-in, from C++: what methods answer, what arrived, and frames
+// for natives. Needs the VM that the library has started. What fails in Java is a
+// std::runtime_error here.
 #ifndef tests_support_Script_h
 #define tests_support_Script_h
 
-#include <RTI/SpecificConfig.h>
-
-#include <cstdint>
+#include <jni.h>
 #include <string>
 #include <vector>
 
 namespace script {
 
-// What a method answers. The type is I, J, Z, D as in JNI, S a string, B, i, j an array of byte,
-// int or long, X an exception, x one without a message, V nothing: 0, null, "" or false.
-struct Answer {
-   char type;
-   std::wstring text;                 // of an exception its message
-   std::string bytes;                 // of an exception its class, with slashes
-   std::vector<std::int64_t> numbers; // of a double its bits
-};
-
-struct Call {
-   std::string method;
-   bool hasBody;
-   std::string body;
-};
-
-// Forgets answers and calls. From now on methods answer as told here, or nothing; otherwise the
-// other side does its own work, if it has any.
-RTI_EXPORT void reset(bool scripted = true);
-
-// For the method's next call.
-RTI_EXPORT void answer(std::string const& method, Answer const& answer);
-
-// The calls since the last time or reset; of several of one method the last body.
-RTI_EXPORT std::vector<Call> takeCalls();
-
-// Calls a native. What it threw: nothing, or class, line feed and message.
-RTI_EXPORT std::wstring fire(
-      std::string const& native, std::string const& frame, bool onNewThread = false);
-
-// Lets local references go with the object that came up meanwhile.
-class RTI_EXPORT LocalFrame {
+// References that the library makes on this thread and keeps are released with the object.
+class LocalFrame {
 public:
    LocalFrame();
    ~LocalFrame();
@@ -52,6 +20,45 @@ private:
    LocalFrame(LocalFrame const&) = delete;
    LocalFrame& operator=(LocalFrame const&) = delete;
 };
+
+void reset();
+void scriptAll(bool on);
+void record(bool on);
+void forgetCalls();
+
+// What a method answers at its next call; or at all that follow. Bytes are a std::string.
+void answerInt(std::string const& method, jint value, bool always = false);
+void answerLong(std::string const& method, jlong value, bool always = false);
+void answerDouble(std::string const& method, jdouble value, bool always = false);
+void answerBoolean(std::string const& method, bool value, bool always = false);
+void answerString(std::string const& method, std::wstring const& value, bool always = false);
+void answerBytes(std::string const& method, std::string const& value, bool always = false);
+void answerInts(std::string const& method, std::vector<jint> const& value, bool always = false);
+void answerLongs(std::string const& method, std::vector<jlong> const& value, bool always = false);
+
+// 0, null, "" or false; for void methods too.
+void answerDefault(std::string const& method, bool always = false);
+
+// The message may be null.
+void answerThrow(std::string const& method, std::string const& className, wchar_t const* message,
+      bool always = false);
+
+int totalCalls();
+std::string calledMethod(int index);
+
+// The array of the last recorded call; hasBody is false for a call without one.
+struct Body {
+   bool hasBody;
+   std::string bytes;
+};
+Body lastBody(std::string const& method);
+
+// Calls a native: nothing, or class, line feed and message of what it threw.
+std::wstring fire(std::string const& native, std::string const& frame);
+std::wstring fireOnNewThread(std::string const& native, std::string const& frame);
+
+// A property of the VM, such as "java.home".
+std::wstring property(std::string const& name);
 
 } // namespace script
 
