@@ -156,6 +156,42 @@ TEST(BasicDataElementTest, stringFailures)
    EXPECT_EQ(std::string(4, '\0'), narrow.get());
 }
 
+// Characters may be encoded in pieces; and a count may promise more than the data hold.
+TEST(BasicDataElementTest, longAndMissingCharacters)
+{
+   for (std::size_t const size : {511U, 512U, 513U, 2000U}) {
+      std::wstring value;
+      std::string units;
+      for (std::size_t i = 0; i < size; ++i) {
+         value += static_cast<wchar_t>(i * 77 & 0xFFFF);
+         units += {static_cast<char>(value[i] >> 8), static_cast<char>(value[i])};
+      }
+      HLAunicodeString element(value);
+      VariableLengthData const data = element.encode();
+      EXPECT_EQ(hex(units.data(), units.size()), hex(data).substr(12)) << size;
+      element.set(L"");
+      element.decode(data);
+      EXPECT_EQ(value, element.get()) << size;
+   }
+   struct {
+      char const* bytes;
+      std::string narrow;
+      std::wstring wide;
+   } const rows[] = {
+         {"00 00 00 03 41 42", std::string("AB\0", 3), std::wstring(L"\x4142\0\0", 3)},
+         {"00 00 00 05 41", std::string("A\0\0\0\0", 5), std::wstring(L"\x4100\0\0\0\0", 5)},
+         {"00 00 00 03 00 41 00", std::string("\0A\0", 3), std::wstring(L"A\0\0", 3)},
+   };
+   for (auto const& row : rows) {
+      HLAASCIIstring narrow;
+      narrow.decode(fromHex(row.bytes));
+      EXPECT_EQ(row.narrow, narrow.get()) << row.bytes;
+      HLAunicodeString wide;
+      wide.decode(fromHex(row.bytes));
+      EXPECT_EQ(row.wide, wide.get()) << row.bytes;
+   }
+}
+
 TEST(BasicDataElementTest, hashes)
 {
    struct {

@@ -15,7 +15,7 @@ SKIPPED = 77
 class Settings:
     def __init__(self, path):
         for name, value in json.loads(Path(path).read_text()).items():
-            setattr(self, name, value if name in ("toolchain", "version") else Path(value))
+            setattr(self, name, Path(value) if "/" in value else value)
 
 
 def settings():
