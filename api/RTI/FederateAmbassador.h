@@ -28,8 +28,8 @@ namespace rti1516e {
 /// longer must be copied. Times are of the federation's kind.
 ///
 /// What a callback throws goes back to the RTI as the Java exception FederateInternalError. Its
-/// text is what() of an Exception or a std::exception, the text of a thrown std::string, and
-/// "Unknown C++ exception" for anything else. The latter passes uncaught into the Java VM if the
+/// text is what() of an Exception, of each character the low 8 bits, what() of a std::exception,
+/// the text of a thrown std::string, and "Unknown C++ exception" for anything else. The latter passes uncaught into the Java VM if the
 /// environment variable TARN1516_DONTCATCHALL was set when the process made its last ambassador.
 ///
 /// The operations have no exception list, so that a federate may override them with or without the

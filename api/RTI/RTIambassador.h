@@ -31,7 +31,11 @@ class FederateAmbassador;
    rti1516e::FederateNotExecutionMember, rti1516e::NotConnected, rti1516e::RTIinternalError
 #define RTI_COMMON_TAIL rti1516e::SaveInProgress, rti1516e::RestoreInProgress, RTI_MEMBER_TAIL
 
-/// A federate's way to the RTI. RTIambassadorFactory makes one; deleting it disconnects.
+/// A federate's way to the RTI. RTIambassadorFactory makes one, and the caller owns it.
+///
+/// Resign, disconnect, and only then delete it. Deleting asks the RTI to disconnect, which it
+/// refuses while the federate is a member: the federate then stays one, and its next callback meets
+/// freed memory. See to it on every way out, an exception's too.
 ///
 /// Each service is one call into the RTI, which alone knows whether the federate is connected,
 /// joined, saving or advancing. What the RTI throws comes out as the exception of the same name if
@@ -40,7 +44,8 @@ class FederateAmbassador;
 /// OrderType, TransportationType or ServiceGroup that has none of its enumeration's values.
 ///
 /// Arguments stay the caller's and are not used after the call. The RTI gets the low 16 bits of
-/// each character of a string, and of a time its encoded form.
+/// each character of a string, so that one beyond U+FFFF arrives as another, and of a time its
+/// encoded form.
 ///
 /// Services may be called from any thread, from several at once, and from inside a callback if they
 /// do not list CallNotAllowedFromWithinCallback. No lock is taken on this side.
@@ -102,7 +107,8 @@ public:
    /// are added to those of the execution. The time factory comes from the federate's time library.
    /// If that throws, the federate is joined but its handle is lost; if it does not know the
    /// execution's kind of time, the join succeeds and the first callback with a time ends the
-   /// process.
+   /// process with "postMagic == POST_MAGIC". A federate sees it before by getTimeFactory, which
+   /// then gives none.
    virtual FederateHandle joinFederationExecution(std::wstring const& federateType,
          std::wstring const& federationExecutionName,
          std::vector<std::wstring> const& additionalFomModules = std::vector<std::wstring>())

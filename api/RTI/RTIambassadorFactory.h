@@ -18,7 +18,7 @@ public:
    RTIambassadorFactory();
    virtual ~RTIambassadorFactory();
 
-   /// A new ambassador that is not connected. The caller owns it; deleting it disconnects.
+   /// A new ambassador that is not connected. The caller owns it; how it ends is told there.
    ///
    /// The first call of a process finds and starts the Java VM, or joins the one that is there.
    /// That is done on the caller's thread and takes its time. RTIinternalError tells why it failed;
