@@ -6,9 +6,33 @@
 #include "jvm/Text.h"
 
 #include <algorithm>
-#include <iostream>
+#include <cstdio>
 
 namespace tarn1516e {
+
+namespace {
+
+// What a method of the exception without arguments answers, or null: what it raises is dropped, for
+// nothing may be pending when the caller goes on.
+jstring askText(JNIEnv* env, jobject exception, jmethodID method)
+{
+   jobject const text = env->CallObjectMethod(exception, method);
+   env->ExceptionClear();
+   return static_cast<jstring>(text);
+}
+
+// The text is released; without one the copy is empty.
+std::wstring takeText(JNIEnv* env, jstring text)
+{
+   if (text == nullptr) {
+      return std::wstring();
+   }
+   std::wstring copy = copyString(env, text);
+   env->DeleteLocalRef(text);
+   return copy;
+}
+
+} // namespace
 
 bool checkEx(JNIEnv* env, jobject exception, char const* className, std::wstring& message)
 {
@@ -19,12 +43,11 @@ bool checkEx(JNIEnv* env, jobject exception, char const* className, std::wstring
    }
    jmethodID const getMessage = env->GetMethodID(type, "getMessage", "()Ljava/lang/String;");
    jmethodID const toString = env->GetMethodID(type, "toString", "()Ljava/lang/String;");
-   jobject text = env->CallObjectMethod(exception, getMessage);
+   jstring text = askText(env, exception, getMessage);
    if (text == nullptr) {
-      text = env->CallObjectMethod(exception, toString);
+      text = askText(env, exception, toString);
    }
-   message = copyString(env, static_cast<jstring>(text));
-   env->DeleteLocalRef(text);
+   message = takeText(env, text);
    env->DeleteLocalRef(type);
    env->DeleteLocalRef(exception);
    return true;
@@ -32,13 +55,12 @@ bool checkEx(JNIEnv* env, jobject exception, char const* className, std::wstring
 
 void unhandledException(JNIEnv* env, jobject exception)
 {
-   std::cerr << "Unhandled exception" << std::endl;
+   std::fputs("Unhandled exception\n", stderr);
    jclass const type = env->FindClass("java/lang/Exception");
    env->CallVoidMethod(exception, env->GetMethodID(type, "printStackTrace", "()V"));
-   jobject const text = env->CallObjectMethod(
-         exception, env->GetMethodID(type, "toString", "()Ljava/lang/String;"));
-   std::wstring const message = copyString(env, static_cast<jstring>(text));
-   env->DeleteLocalRef(text);
+   env->ExceptionClear();
+   std::wstring const message = takeText(
+         env, askText(env, exception, env->GetMethodID(type, "toString", "()Ljava/lang/String;")));
    env->DeleteLocalRef(type);
    env->DeleteLocalRef(exception);
    throw rti1516e::RTIinternalError(message);

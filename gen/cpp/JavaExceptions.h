@@ -27,12 +27,12 @@ RTI_FOR_EACH_EXCEPTION(TARN_JAVA_CLASS_NAME)
 #undef TARN_JAVA_CLASS_NAME
 
 // Whether the exception is of the class or a subclass. If so, takes its getMessage text, or without
-// one its toString text, and releases the local reference to the exception. A class that can't be
-// found is no match.
+// one its toString text, or an empty one, releases the local reference to the exception and leaves
+// nothing pending. A class that can't be found is no match, and what the VM says of it is pending.
 bool checkEx(JNIEnv* env, jobject exception, char const* className, std::wstring& message);
 
 // For an exception that no rung names: tells of it on the error streams, releases the reference and
-// throws RTIinternalError with its toString text.
+// throws RTIinternalError with its toString text, or an empty one. Nothing is pending afterwards.
 [[noreturn]] void unhandledException(JNIEnv* env, jobject exception);
 
 // Raises a Java exception in env. The class name is dotted or slashed. A wide message loses all
@@ -54,6 +54,7 @@ struct Climb {
       if (checkEx(env, exception, JavaClassName<Rung>::text(), message)) {
          throw Rung(message);
       }
+      env->ExceptionClear(); // there may be no class of that name
    }
 };
 

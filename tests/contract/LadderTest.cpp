@@ -87,6 +87,29 @@ TEST_F(Ladders, catchSubclassesAndTellTheirClassWithoutAMessage)
    }
 }
 
+// The next row's script would not be taken while an exception is pending.
+TEST_F(Ladders, leaveNothingPendingWhateverATextRaises)
+{
+   struct Row {
+      wchar_t const* plan;
+      char const* rung;
+      char const* stranger;
+   };
+   Row const rows[] = {{L"rt", "t", "t"}, {L"nt", "t", "t"}, {L"rr", "", ""}, {L"nr", "", ""},
+         {L"rn", "", ""}, {L"nn", "", ""}, {L"mr", "m", ""}};
+   std::string const unreadable = "skerry/tarn1516e/standin/UnreadableException";
+   ServiceRow const& row = serviceRows().front();
+   for (Row const& expected : rows) {
+      SCOPED_TRACE(show(expected.plan));
+      std::string const name = "RTIinternalError: ";
+      EXPECT_EQ(name + expected.rung, caught(row, unreadable, expected.plan));
+      testing::internal::CaptureStderr();
+      EXPECT_EQ(name + expected.stranger, caught(row, unreadable + "$Stranger", expected.plan));
+      EXPECT_EQ(0U, testing::internal::GetCapturedStderr().find("Unhandled exception\n"));
+   }
+   script::callUnchecked(); // whoever watches the VM's warnings waits for this one
+}
+
 // Other exceptions of the interface count as well: no ladder is longer than its row.
 TEST_F(Ladders, tellOfWhatNoRungNames)
 {

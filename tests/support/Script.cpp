@@ -268,6 +268,16 @@ std::wstring fireOnNewThread(std::string const& native, std::string const& frame
    return fireBy("fireOnNewThread", native, frame);
 }
 
+void callUnchecked()
+{
+   Visit java;
+   jclass const type = java.type("java/lang/String");
+   jmethodID const id =
+         java.checked(java.env->GetStaticMethodID(type, "valueOf", "(Z)Ljava/lang/String;"));
+   jobject const text = java.env->CallStaticObjectMethod(type, id, JNI_TRUE);
+   java.env->GetStringLength(static_cast<jstring>(text));
+}
+
 std::wstring property(std::string const& name)
 {
    Visit java;

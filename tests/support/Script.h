@@ -57,6 +57,9 @@ Body lastBody(std::string const& method);
 std::wstring fire(std::string const& native, std::string const& frame);
 std::wstring fireOnNewThread(std::string const& native, std::string const& frame);
 
+// Makes a call that a VM warns of that checks them.
+void callUnchecked();
+
 // A property of the VM, such as "java.home".
 std::wstring property(std::string const& name);
 
