@@ -3,20 +3,15 @@
 #define bridge_Answers_h
 
 #include "gen/cpp_generated/RTIambassadorC.h"
-#include <RTI/Exception.h>
 
 #include <memory>
 
 namespace tarn1516e {
 
-// Gives the caller's object the value of the answer. There is none if the RTI answered null, or as
-// long as there is no time factory to decode it with, that is before the first join.
+// Gives the caller's object the value of the answer.
 template <class Value>
 void assign(Value& out, std::unique_ptr<Value> const& answer)
 {
-   if (answer == nullptr) {
-      throw rti1516e::RTIinternalError(L"There is no time factory to decode the RTI's answer with");
-   }
    out = *answer;
 }
 

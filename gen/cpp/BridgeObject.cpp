@@ -56,6 +56,18 @@ jobject newRtiObject(JNIEnv* env, jclass type)
    return object;
 }
 
+// Says why an answer has become no time and no interval.
+[[noreturn]] void throwUnreadable(FederateAmbassadorHelper const& helper, jbyteArray encoded)
+{
+   if (helper.timeFactory == nullptr) {
+      throw RTIinternalError(L"There is no time factory to decode the RTI's answer with");
+   }
+   if (encoded == nullptr) {
+      throw RTIinternalError(L"The RTI answered null where a time or an interval was due");
+   }
+   throw RTIinternalError(L"The time factory made nothing of the RTI's answer");
+}
+
 } // namespace
 
 RTIambassadorC::RTIambassadorC() : _rtiObject(nullptr)
@@ -118,6 +130,9 @@ std::unique_ptr<LogicalTime> RTIambassadorC::returnLogicalTime(JNIEnv* env, jbyt
 {
    std::unique_ptr<LogicalTime> time = _helper.makeLogicalTime(env, encoded);
    env->DeleteLocalRef(encoded);
+   if (time == nullptr) {
+      throwUnreadable(_helper, encoded);
+   }
    return time;
 }
 
@@ -126,6 +141,9 @@ std::unique_ptr<LogicalTimeInterval> RTIambassadorC::returnLogicalTimeInterval(
 {
    std::unique_ptr<LogicalTimeInterval> interval = _helper.makeLogicalTimeInterval(env, encoded);
    env->DeleteLocalRef(encoded);
+   if (interval == nullptr) {
+      throwUnreadable(_helper, encoded);
+   }
    return interval;
 }
 

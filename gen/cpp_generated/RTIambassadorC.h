@@ -305,7 +305,8 @@ private:
 
    void adoptTimeFactory();
 
-   // Each releases the array; a null array is an empty pointer, or the flag false.
+   // Each releases the array and throws if nothing comes of it; that a time query's is null says
+   // that there is no such time.
    std::unique_ptr<rti1516e::LogicalTime> returnLogicalTime(JNIEnv* env, jbyteArray encoded);
    std::unique_ptr<rti1516e::LogicalTimeInterval> returnLogicalTimeInterval(
          JNIEnv* env, jbyteArray encoded);
