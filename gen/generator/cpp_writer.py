@@ -225,7 +225,8 @@ void registerNatives(JNIEnv* env)
    }};
    if (env->RegisterNatives(type, nm, sizeof nm / sizeof *nm) != 0) {{
       std::fputs(text::nativesRefused, stderr);
-      env->ExceptionClear(); // the ambassador is made all the same
+      env->ExceptionDescribe(); // names the native that Java does not know
+      env->ExceptionClear();    // the ambassador is made all the same
    }}
    env->DeleteLocalRef(type);
 }}

@@ -358,6 +358,9 @@ def joining(name, steps, out, err="", lay=(), env=()):
 
 
 UNFIT = "Cannot locate constructor for Java class skerry.tarn1516e.RTIambassadorC2007"
+UNKNOWN_NATIVE = (
+    'Exception in thread "main" java.lang.NoSuchMethodError: Method '
+    "skerry.tarn1516e.FederateAmbassadorC2007.requestRetraction_MRH_Native([B)V not found\n")
 THROW = "-Dtarn.standin.constructor=throw"
 RAISED = 'Exception in thread "main" java.lang.IllegalStateException'
 IGNORED = {**variables(THROW), "CLASSPATH": "{jar}"}
@@ -392,12 +395,13 @@ JAVAS = [
           **not_loaded("RTIambassadorC2007", "adapter", "{classes}/core")),
     start("no such constructor", JAVA, {**variables(*WATCHED), "CLASSPATH": "{classes}/unfit"},
           "create", thrown(UNFIT), UNFIT),
-    # The text of an exception is taken without a look whether that raised another one, of which
-    # the VM would warn.
-    start("a constructor that throws", JAVA, variables(*QUIET, THROW + ":no licence"),
+    start("a constructor that throws", JAVA, variables(*WATCHED, THROW + ":no licence"),
           "create create", 2 * thrown("no licence"), 2 * (RAISED + ": no licence\n")),
-    start("one that throws without a text", JAVA, variables(*QUIET, THROW), "create",
+    start("one that throws without a text", JAVA, variables(*WATCHED, THROW), "create",
           thrown("java.lang.IllegalStateException"), RAISED + "\n"),
+    start("a native that Java does not know", JAVA,
+          {**variables(*WATCHED), "CLASSPATH": "{classes}/unfit-natives"}, "create", "created\n",
+          "Failed to register native functions.\n" + UNKNOWN_NATIVE),
     joining("a VM with the classes", WITH_CLASSES + "create", "created\n", "",
             IGNORED_FILE, IGNORED),
     joining("a VM without the classes", "then create", thrown(lacking("core", "existing", "{jar}")),
