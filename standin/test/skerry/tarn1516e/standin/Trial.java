@@ -9,9 +9,7 @@ import java.util.Collections;
 import java.util.HashMap;
 import java.util.List;
 import java.util.Map;
-import java.util.Set;
 import java.util.TreeMap;
-import java.util.TreeSet;
 import java.util.function.Supplier;
 
 final class Trial {
@@ -20,7 +18,6 @@ final class Trial {
       void run() throws Exception;
    }
 
-   static final byte[] TAG = {7};
    static final int EVOKED = 1;
    static final int IMMEDIATE = 2;
 
@@ -32,17 +29,10 @@ final class Trial {
    static final class Federate {
       final Loopback rti = new Loopback(Collections.emptyList());
       final List<String> got = new ArrayList<>();
-      int handle;
 
       Federate(int callbackModel) throws Exception {
          FEDERATES.put(FEDERATES.size() + 1, this);
          rti.federation.connect(FEDERATES.size(), callbackModel, "");
-      }
-
-      Federate join(String type, String federation) throws Exception {
-         handle = rti.federation.joinFederationExecution(
-               type, federation, Collections.emptyList());
-         return this;
       }
 
       /** Lets the callbacks come and compares all since the last time. */
@@ -84,17 +74,9 @@ final class Trial {
       return ByteBuffer.allocate(8).putLong(value).array();
    }
 
-   static Set<Integer> set(Integer... values) {
-      return new TreeSet<>(Arrays.asList(values));
-   }
-
    /** One attribute or parameter with a value of one byte. */
    static Map<Integer, byte[]> value(int handle, int value) {
       return new TreeMap<>(Collections.singletonMap(handle, new byte[] {(byte) value}));
-   }
-
-   static List<AttributeRegions> over(int attribute, int region) {
-      return Collections.singletonList(new AttributeRegions(set(attribute), set(region)));
    }
 
    /** A callback as text, read by the codes in the native's name: the operation and its fields.
