@@ -7,6 +7,7 @@
 #include <RTI/RTI1516.h>
 #include <RTI/time/HLAfloat64TimeFactory.h>
 
+#include <cstdlib>
 #include <iostream>
 #include <memory>
 #include <stdexcept>
@@ -45,10 +46,12 @@ void keepTime(std::wstring const& name, Time const& wanted, Interval const& want
       std::wstring const& text)
 {
    RTIambassadorFactory factory;
+   std::string const narrow = HARBOUR_FOM;
+   std::wstring const objectModel(narrow.begin(), narrow.end());
    Keeper keeper;
    std::unique_ptr<RTIambassador> rti(factory.createRTIambassador().release());
    rti->connect(keeper, HLA_EVOKED);
-   rti->createFederationExecution(L"Tides", std::vector<std::wstring>(), name);
+   rti->createFederationExecution(L"Tides", objectModel, name);
    rti->joinFederationExecution(L"Keeper", L"Tides");
    rti->enableTimeRegulation(wantedLookahead);
    while (keeper.answers < 1) {
@@ -79,6 +82,8 @@ void keepTime(std::wstring const& name, Time const& wanted, Interval const& want
 
 int main()
 {
+   // The stand-in for the RTI's Java classes takes other names than the standard's where told.
+   setenv("TARN1516_OPTION19", "-Dtarn.standin.times=TideTime", 0);
    try {
       keepTime(tideTimeName, TideTime(1580), TideInterval(3), L"tide 2 + 90 min");
       keepTime(HLAfloat64TimeName, ClockTime(6.5), HLAfloat64Interval(0.25), L"06:30");

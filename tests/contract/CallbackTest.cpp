@@ -217,7 +217,7 @@ TEST_F(Callbacks, mayCallServicesInBothModels)
       };
       takeHandle();
       federate.rti->connect(*federate.callbacks, model);
-      federate.rti->createFederationExecution(L"models", std::vector<std::wstring>());
+      federate.rti->createFederationExecution(L"models", OBJECT_MODEL);
       federate.rti->joinFederationExecution(L"type", L"models");
       federate.rti->reserveObjectInstanceName(L"buoy");
       if (model == HLA_EVOKED) {

@@ -38,6 +38,7 @@ def main():
             for version, number in VERSIONS.items():
                 out = scratch / f"{Path(compiler).name}-{version}"
                 out.mkdir()
+                (out / "empty.xml").write_text("<objectModel/>")
                 program = build(compiler, version, home, to, out)
                 output = sdk.run(program, cwd=out, expect=None)
                 differences.check(f"{compiler} {version}",

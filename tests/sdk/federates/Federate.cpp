@@ -66,7 +66,7 @@ struct CreatedTwice {
    typedef FederationExecutionAlreadyExists E;
    static void run(RTIambassador& rti, Callbacks&)
    {
-      rti.createFederationExecution(L"Language", std::vector<std::wstring>());
+      rti.createFederationExecution(L"Language", L"empty.xml");
    }
 };
 
@@ -165,7 +165,7 @@ void takePart(RTIambassador& rti, Callbacks& callbacks)
    CATCHES(JoinedToNothing);
    CATCHES(NoSuchModule);
    catchFromPlugin(rti);
-   rti.createFederationExecution(L"Language", std::vector<std::wstring>(), L"HLAinteger64Time");
+   rti.createFederationExecution(L"Language", L"empty.xml", L"HLAinteger64Time");
    CATCHES(CreatedTwice);
    FederateHandle const handle = rti.joinFederationExecution(L"Trier", L"Language");
    expect(handle.isValid(), "handle");

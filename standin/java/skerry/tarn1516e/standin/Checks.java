@@ -83,9 +83,9 @@ final class Checks {
       return found;
    }
 
-   static void transportation(int code) throws InvalidTransportationType {
-      if (code != Fom.RELIABLE && code != Fom.BEST_EFFORT) {
-         throw new InvalidTransportationType("no transportation has the code " + code);
+   static void transportation(Member member, int handle) throws InvalidTransportationType {
+      if (member.federation().fom().transportationName(handle) == null) {
+         throw new InvalidTransportationType("no transportation has the handle " + handle);
       }
    }
 

@@ -9,14 +9,13 @@ import java.util.LinkedHashMap;
 import java.util.List;
 import java.util.Map;
 import java.util.Set;
-import org.w3c.dom.Element;
 
 final class Federation {
    static final Map<String, Federation> ALL = new LinkedHashMap<>();
 
    private final String _name;
    private final String _timeName;
-   private final List<Element> _modules = new ArrayList<>();
+   private final List<Module> _modules = new ArrayList<>();
    private Fom _fom = new Fom();
    private final Map<Integer, Member> _members = new LinkedHashMap<>();
    private final Clock _clock = new Clock(this);
@@ -121,17 +120,18 @@ final class Federation {
    }
 
    /** Adds all the modules or, if they do not fit, none. One that is there already counts once. */
-   void addModules(List<String> designators) throws RTIexception {
-      List<Element> modules = new ArrayList<>(_modules);
-      for (String designator : designators) {
-         Element opened = FomReader.open(designator);
-         if (modules.stream().noneMatch(module -> module.isEqualNode(opened))) {
-            modules.add(opened);
+   void addModules(List<Module> added) throws RTIexception {
+      List<Module> modules = new ArrayList<>(_modules);
+      for (Module module : added) {
+         if (modules.stream().noneMatch(module::isSameAs)) {
+            modules.add(module);
          }
       }
-      _fom = FomReader.merge(modules);
-      _modules.clear();
-      _modules.addAll(modules);
+      if (modules.size() > _modules.size()) {
+         _fom = FomReader.merge(modules);
+         _modules.clear();
+         _modules.addAll(modules);
+      }
    }
 
    void add(Member member) {

@@ -47,13 +47,13 @@ final class FederationService implements FederationManagement {
    @Override
    public void createFederationExecution(String name, String module, String timeName)
          throws RTIexception {
-      create(name, Collections.singletonList(module), timeName);
+      create(name, null, Collections.singletonList(module), timeName);
    }
 
    @Override
    public void createFederationExecution(String name, List<String> modules, String timeName)
          throws RTIexception {
-      create(name, modules, timeName);
+      create(name, null, modules, timeName);
    }
 
    @Override
@@ -61,29 +61,47 @@ final class FederationService implements FederationManagement {
          String name, List<String> modules, String mimModule, String timeName)
          throws RTIexception {
       _loopback.callbacks();
-      if (mimModule.equals("HLAstandardMIM")) {
+      if (mimModule.equals(Mim.NAME)) {
          throw new DesignatorIsHLAstandardMIM("a MIM of one's own needs another name");
       }
+      Module mim;
       try {
-         FomReader.merge(Collections.singletonList(FomReader.open(mimModule)));
+         mim = Module.open(mimModule, true);
+         FomReader.merge(Collections.singletonList(mim));
       } catch (CouldNotOpenFDD failure) {
          throw new CouldNotOpenMIM(failure.getMessage());
       } catch (ErrorReadingFDD | InconsistentFDD failure) {
          throw new ErrorReadingMIM(failure.getMessage());
       }
-      List<String> all = new ArrayList<>(Collections.singletonList(mimModule));
-      all.addAll(modules);
-      create(name, all, timeName);
+      create(name, mim, modules, timeName);
    }
 
-   private void create(String name, List<String> modules, String timeName) throws RTIexception {
+   /** A null MIM: the standard's. */
+   private void create(String name, Module mim, List<String> modules, String timeName)
+         throws RTIexception {
       _loopback.callbacks();
       if (Federation.ALL.containsKey(name)) {
          throw new FederationExecutionAlreadyExists("there is a federation " + name);
       }
+      LogicalTime.checkName(timeName);
+      if (modules.isEmpty()) {
+         throw new InconsistentFDD("a federation needs a module of an object model");
+      }
+      List<Module> opened = new ArrayList<>(open(modules));
+      if (mim != null) {
+         opened.add(0, mim);
+      }
       Federation created = new Federation(name, timeName);
-      created.addModules(modules);
+      created.addModules(opened);
       Federation.ALL.put(name, created);
+   }
+
+   private static List<Module> open(List<String> designators) throws RTIexception {
+      List<Module> opened = new ArrayList<>();
+      for (String designator : designators) {
+         opened.add(Module.open(designator, false));
+      }
+      return opened;
    }
 
    @Override
@@ -135,7 +153,7 @@ final class FederationService implements FederationManagement {
    /** A federate without a name gets its type and handle for one. */
    private int join(Federation federation, String name, String type, List<String> modules)
          throws RTIexception {
-      federation.addModules(modules);
+      federation.addModules(open(modules));
       int handle = federation.nextMemberHandle();
       Member member = new Member(handle, name != null ? name : type + " " + handle, type,
             federation, _loopback.callbacks());

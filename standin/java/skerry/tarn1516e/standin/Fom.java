@@ -3,9 +3,12 @@
 // with further modules behind gives the names that it had the handles that they had.
 package skerry.tarn1516e.standin;
 
+import java.util.ArrayList;
+import java.util.Arrays;
 import java.util.HashMap;
 import java.util.HashSet;
 import java.util.LinkedHashMap;
+import java.util.List;
 import java.util.Map;
 import java.util.Set;
 
@@ -13,7 +16,9 @@ final class Fom {
    static final int RECEIVE = 0;
    static final int TIMESTAMP = 1;
    static final int RELIABLE = 1;
-   static final int BEST_EFFORT = 2;
+
+   /** By their codes. */
+   static final List<String> ORDERS = Arrays.asList("Receive", "TimeStamp");
 
    static final String OBJECT_ROOT = "HLAobjectRoot";
    static final String INTERACTION_ROOT = "HLAinteractionRoot";
@@ -41,8 +46,12 @@ final class Fom {
       final String name;
       final ObjectClass parent;
 
+      final List<ObjectClass> children = new ArrayList<>();
+
       /** Its own and the inherited ones, by handle. */
       final Map<Integer, Attribute> attributes = new LinkedHashMap<>();
+
+      private final Map<String, Attribute> _own = new HashMap<>();
 
       ObjectClass(int handle, String name, ObjectClass parent) {
          this.handle = handle;
@@ -50,13 +59,23 @@ final class Fom {
          this.parent = parent;
       }
 
+      Attribute own(String attributeName) {
+         return _own.get(attributeName);
+      }
+
       Attribute find(String attributeName) {
-         for (Attribute attribute : attributes.values()) {
-            if (attribute.name.equals(attributeName)) {
-               return attribute;
-            }
-         }
-         return null;
+         Attribute own = own(attributeName);
+         return own != null || parent == null ? own : parent.find(attributeName);
+      }
+
+      boolean isOwnBelow(String attributeName) {
+         return children.stream().anyMatch(child -> child.own(attributeName) != null
+               || child.isOwnBelow(attributeName));
+      }
+
+      private void inherit(Attribute added) {
+         attributes.put(added.handle, added);
+         children.forEach(child -> child.inherit(added));
       }
 
       boolean isOrDescendsFrom(ObjectClass other) {
@@ -72,6 +91,9 @@ final class Fom {
       /** Its own and the inherited ones, by handle. */
       final Map<Integer, String> parameters = new LinkedHashMap<>();
 
+      private final List<InteractionClass> _children = new ArrayList<>();
+      private final Map<String, Integer> _own = new HashMap<>();
+
       InteractionClass(int handle, String name, InteractionClass parent) {
          this.handle = handle;
          this.name = name;
@@ -82,13 +104,23 @@ final class Fom {
          return this == other || parent != null && parent.isOrDescendsFrom(other);
       }
 
+      boolean isOwn(String parameterName) {
+         return _own.containsKey(parameterName);
+      }
+
       Integer find(String parameterName) {
-         for (Map.Entry<Integer, String> parameter : parameters.entrySet()) {
-            if (parameter.getValue().equals(parameterName)) {
-               return parameter.getKey();
-            }
-         }
-         return null;
+         Integer own = _own.get(parameterName);
+         return own != null || parent == null ? own : parent.find(parameterName);
+      }
+
+      boolean isOwnBelow(String parameterName) {
+         return _children.stream().anyMatch(
+               child -> child.isOwn(parameterName) || child.isOwnBelow(parameterName));
+      }
+
+      private void inherit(int added, String parameterName) {
+         parameters.put(added, parameterName);
+         _children.forEach(child -> child.inherit(added, parameterName));
       }
    }
 
@@ -109,17 +141,40 @@ final class Fom {
    final Map<Integer, Dimension> dimensions = new LinkedHashMap<>();
    final Map<String, Double> updateRates = new HashMap<>();
    final Map<String, Boolean> switches = new HashMap<>();
+   int automaticResignAction = Resignation.CANCEL_THEN_DELETE_THEN_DIVEST;
 
    private final Map<String, ObjectClass> _objectClassesByName = new HashMap<>();
    private final Map<String, InteractionClass> _interactionClassesByName = new HashMap<>();
    private final Map<String, Dimension> _dimensionsByName = new HashMap<>();
+   private final List<String> _transportations = new ArrayList<>();
    private int _attributeCount;
    private int _parameterCount;
 
    /** What is there without any module. */
    Fom() {
-      addAttribute(addObjectClass(OBJECT_ROOT, null), PRIVILEGE_TO_DELETE).order = TIMESTAMP;
-      addInteractionClass(INTERACTION_ROOT, null).order = TIMESTAMP;
+      addTransportation("HLAreliable");
+      addTransportation("HLAbestEffort");
+      int federate = addDimension(Mim.FEDERATE_DIMENSION, Integer.MAX_VALUE).handle;
+      addDimension(Mim.SERVICE_GROUP_DIMENSION, 8);
+      Mim.read(Mim.OBJECT_CLASSES, (name, parent, members) -> {
+         ObjectClass added = addObjectClass(name, _objectClassesByName.get(parent));
+         for (String member : members) {
+            addAttribute(added, member);
+         }
+      });
+      Mim.read(Mim.INTERACTION_CLASSES, (name, parent, members) -> {
+         InteractionClass added =
+               addInteractionClass(name, _interactionClassesByName.get(parent));
+         for (String member : members) {
+            addParameter(added, member);
+         }
+         if (name.contains("HLAfederate.HLAreport")) {
+            added.dimensions.add(federate);
+         }
+      });
+      objectClass(OBJECT_ROOT).own(PRIVILEGE_TO_DELETE).order = TIMESTAMP;
+      interactionClass(INTERACTION_ROOT).order = TIMESTAMP;
+      objectClass(Mim.FEDERATE)._own.values().forEach(each -> each.dimensions.add(federate));
    }
 
    /** By the full name or by the name without the root. */
@@ -135,6 +190,22 @@ final class Fom {
 
    Dimension dimension(String name) {
       return _dimensionsByName.get(name);
+   }
+
+   /** Null if there is none of that name. */
+   Integer transportation(String name) {
+      int at = _transportations.indexOf(name);
+      return at < 0 ? null : RELIABLE + at;
+   }
+
+   /** Null if there is none with that handle. */
+   String transportationName(int handle) {
+      int at = handle - RELIABLE;
+      return at < 0 || at >= _transportations.size() ? null : _transportations.get(at);
+   }
+
+   void addTransportation(String name) {
+      _transportations.add(name);
    }
 
    boolean hasAttribute(int handle) {
@@ -157,6 +228,7 @@ final class Fom {
       ObjectClass added = new ObjectClass(objectClasses.size() + 1, name, parent);
       if (parent != null) {
          added.attributes.putAll(parent.attributes);
+         parent.children.add(added);
       }
       objectClasses.put(added.handle, added);
       _objectClassesByName.put(name, added);
@@ -166,11 +238,8 @@ final class Fom {
    /** Classes below the class get it too. */
    Attribute addAttribute(ObjectClass to, String name) {
       Attribute added = new Attribute(++_attributeCount, name);
-      for (ObjectClass each : objectClasses.values()) {
-         if (each.isOrDescendsFrom(to)) {
-            each.attributes.put(added.handle, added);
-         }
-      }
+      to._own.put(name, added);
+      to.inherit(added);
       return added;
    }
 
@@ -178,6 +247,7 @@ final class Fom {
       InteractionClass added = new InteractionClass(interactionClasses.size() + 1, name, parent);
       if (parent != null) {
          added.parameters.putAll(parent.parameters);
+         parent._children.add(added);
       }
       interactionClasses.put(added.handle, added);
       _interactionClassesByName.put(name, added);
@@ -187,11 +257,8 @@ final class Fom {
    /** Classes below the class get it too. */
    void addParameter(InteractionClass to, String name) {
       int handle = ++_parameterCount;
-      for (InteractionClass each : interactionClasses.values()) {
-         if (each.isOrDescendsFrom(to)) {
-            each.parameters.put(handle, name);
-         }
-      }
+      to._own.put(name, handle);
+      to.inherit(handle, name);
    }
 
    Dimension addDimension(String name, long upperBound) {

@@ -1,126 +1,131 @@
-// Reads the XML modules of an object model, in the order given, into one model. A class may stand
-// in several modules: either without attributes of its own, or with the same ones.
+// Merges the modules of an object model, in the order given, behind the standard's management object
+// model. A class may stand in several modules: either without attributes of its own, or with the
+// same ones. What one module tells no other may tell otherwise.
 package skerry.tarn1516e.standin;
 
-import hla.rti1516e.exceptions.CouldNotOpenFDD;
 import hla.rti1516e.exceptions.ErrorReadingFDD;
 import hla.rti1516e.exceptions.InconsistentFDD;
-import java.io.File;
-import java.io.IOException;
-import java.io.InputStream;
-import java.net.MalformedURLException;
-import java.net.URL;
-import java.nio.file.Files;
-import java.util.ArrayList;
+import java.util.Collections;
 import java.util.HashSet;
 import java.util.List;
 import java.util.Set;
-import javax.xml.XMLConstants;
-import javax.xml.parsers.DocumentBuilder;
-import javax.xml.parsers.DocumentBuilderFactory;
-import javax.xml.parsers.ParserConfigurationException;
+import java.util.TreeSet;
 import org.w3c.dom.Element;
-import org.w3c.dom.Node;
-import org.xml.sax.SAXException;
 
 final class FomReader {
+   private static final String[] FACTS_OF_ATTRIBUTES = {
+         "dataType", "updateType", "ownership", "sharing"};
+
    private final Fom _fom = new Fom();
+   private final Definitions _definitions = new Definitions();
 
-   private FomReader() {}
+   /** The one being read, and the classes that it has given so far. */
+   private Module _module;
+   private final Set<String> _given = new HashSet<>();
 
-   /** The module behind a path, which starts from the current directory, or a URL. */
-   static Element open(String designator) throws CouldNotOpenFDD, ErrorReadingFDD {
-      Element root;
-      try (InputStream in = stream(designator)) {
-         root = parser().parse(in).getDocumentElement();
-      } catch (IOException failure) {
-         throw new CouldNotOpenFDD("cannot open " + designator + ": " + failure.getMessage());
-      } catch (SAXException | ParserConfigurationException failure) {
-         throw new ErrorReadingFDD("cannot read " + designator + ": " + failure.getMessage());
-      }
-      if (!localName(root).equals("objectModel")) {
-         throw new ErrorReadingFDD(designator + " is not an object model");
-      }
-      return root;
+   private FomReader() {
+      _definitions.assume("the class " + Fom.OBJECT_ROOT, "attributes",
+            Collections.singleton(Fom.PRIVILEGE_TO_DELETE), Mim.NAME);
    }
 
    /** The model of all these modules. */
-   static Fom merge(List<Element> modules) throws ErrorReadingFDD, InconsistentFDD {
+   static Fom merge(List<Module> modules) throws ErrorReadingFDD, InconsistentFDD {
       FomReader reader = new FomReader();
-      for (Element module : modules) {
-         reader.readDimensions(module);
-         reader.readUpdateRates(module);
-         reader.readSwitches(module);
-         for (Element each : children(module, "objects", "objectClass")) {
-            reader.readObjectClass(each, null);
-         }
-         for (Element each : children(module, "interactions", "interactionClass")) {
-            reader.readInteractionClass(each, null);
-         }
+      for (Module module : modules) {
+         reader.read(module);
       }
       return reader._fom;
    }
 
-   private static InputStream stream(String designator) throws IOException {
-      URL url;
-      try {
-         url = new URL(designator);
-      } catch (MalformedURLException path) {
-         return Files.newInputStream(new File(designator).toPath());
+   private void read(Module module) throws ErrorReadingFDD, InconsistentFDD {
+      _module = module;
+      _given.clear();
+      for (Element each : Xml.children(module.root, "dimensions", "dimension")) {
+         readDimension(each);
       }
-      if (!url.getProtocol().equals("file")) {
-         throw new IOException("only files are read");
+      for (Element each : Xml.children(module.root, "updateRates", "updateRate")) {
+         readUpdateRate(each);
       }
-      return url.openStream();
+      for (Element each : Xml.children(module.root, "transportations", "transportation")) {
+         readTransportation(each);
+      }
+      for (Element each : Xml.children(module.root, "switches", null)) {
+         readSwitch(each);
+      }
+      for (Element each : Xml.children(module.root, "objects", "objectClass")) {
+         readObjectClass(each, null);
+      }
+      for (Element each : Xml.children(module.root, "interactions", "interactionClass")) {
+         readInteractionClass(each, null);
+      }
    }
 
-   private static DocumentBuilder parser() throws ParserConfigurationException {
-      DocumentBuilderFactory factory = DocumentBuilderFactory.newInstance();
-      factory.setNamespaceAware(true);
-      factory.setFeature(XMLConstants.FEATURE_SECURE_PROCESSING, true);
-      factory.setFeature("http://xml.org/sax/features/external-general-entities", false);
-      factory.setFeature("http://xml.org/sax/features/external-parameter-entities", false);
-      factory.setFeature(
-            "http://apache.org/xml/features/nonvalidating/load-external-dtd", false);
-      factory.setExpandEntityReferences(false);
-      DocumentBuilder parser = factory.newDocumentBuilder();
-      parser.setErrorHandler(null);
-      return parser;
+   private void tell(String part, String fact, Object value) throws InconsistentFDD {
+      _definitions.tell(part, fact, value, _module.designator);
    }
 
-   private void readDimensions(Element module) throws ErrorReadingFDD, InconsistentFDD {
-      for (Element each : children(module, "dimensions", "dimension")) {
-         String name = name(each);
-         long upperBound = Math.round(number(each, "upperBound", Long.MAX_VALUE));
-         Fom.Dimension known = _fom.dimension(name);
-         if (known == null) {
-            _fom.addDimension(name, upperBound);
-         } else if (known.upperBound != upperBound) {
-            throw new InconsistentFDD("the dimension " + name + " has two upper bounds");
+   private InconsistentFDD inconsistent(String what) {
+      return new InconsistentFDD(what + " in " + _module.designator);
+   }
+
+   /** Names that begin with HLA are the standard's own. What modules repeat of its management object
+       model is taken. */
+   private String newName(String name, String part) throws InconsistentFDD {
+      if (!name.matches("[^\\s.]+")) {
+         throw inconsistent(part + " has a blank or a dot in its name");
+      }
+      if (name.regionMatches(true, 0, "HLA", 0, 3) && !_module.isMim
+            && !part.contains(".HLAmanager")) {
+         throw inconsistent(part + " has a name that begins with HLA");
+      }
+      return name;
+   }
+
+   private void readDimension(Element element) throws ErrorReadingFDD, InconsistentFDD {
+      String name = Xml.name(element);
+      long upperBound = Math.round(Xml.number(element, "upperBound", Long.MAX_VALUE));
+      Fom.Dimension known = _fom.dimension(name);
+      if (known == null) {
+         known = _fom.addDimension(newName(name, "the dimension " + name), upperBound);
+      }
+      if (!name.startsWith("HLA")) {
+         tell("the dimension " + name, "upper bound", upperBound);
+      }
+   }
+
+   private void readUpdateRate(Element element) throws ErrorReadingFDD, InconsistentFDD {
+      String name = Xml.name(element);
+      double rate = Xml.number(element, "rate", 0);
+      tell("the update rate " + newName(name, "the update rate " + name), "value", rate);
+      _fom.updateRates.put(name, rate);
+   }
+
+   private void readTransportation(Element element) throws ErrorReadingFDD, InconsistentFDD {
+      String name = Xml.name(element);
+      if (_fom.transportation(name) == null) {
+         _fom.addTransportation(newName(name, "the transportation " + name));
+      }
+      if (!Xml.text(element, "reliable").isEmpty()) {
+         tell("the transportation " + name, "reliability", Xml.text(element, "reliable"));
+      }
+   }
+
+   private void readSwitch(Element element) throws InconsistentFDD {
+      String name = element.getLocalName();
+      if (name.equals("automaticResignAction")) {
+         String action = element.getAttribute("resignAction");
+         if (!Resignation.NAMES.contains(action)) {
+            throw inconsistent("the automatic resign action is " + action);
          }
+         tell("the switch " + name, "value", action);
+         _fom.automaticResignAction = Resignation.NAMES.indexOf(action);
+         return;
       }
-   }
-
-   private void readUpdateRates(Element module) throws ErrorReadingFDD, InconsistentFDD {
-      for (Element each : children(module, "updateRates", "updateRate")) {
-         String name = name(each);
-         double rate = number(each, "rate", 0);
-         Double known = _fom.updateRates.put(name, rate);
-         if (known != null && known != rate) {
-            throw new InconsistentFDD("the update rate " + name + " has two values");
-         }
-      }
-   }
-
-   private void readSwitches(Element module) {
-      for (Element list : children(module, "switches")) {
-         for (Element each : children(list, null)) {
-            String value = each.hasAttribute("isEnabled") ? each.getAttribute("isEnabled")
-                                                          : each.getTextContent().trim();
-            _fom.switches.put(localName(each),
-                  value.equalsIgnoreCase("true") || value.equalsIgnoreCase("enabled"));
-         }
-      }
+      String value = element.hasAttribute("isEnabled") ? element.getAttribute("isEnabled")
+                                                       : element.getTextContent().trim();
+      boolean isOn = value.equalsIgnoreCase("true") || value.equalsIgnoreCase("enabled");
+      tell("the switch " + name, "value", isOn);
+      _fom.switches.put(name, isOn);
    }
 
    private void readObjectClass(Element element, Fom.ObjectClass parent)
@@ -128,37 +133,57 @@ final class FomReader {
       String name = fullName(element, parent == null ? null : parent.name, Fom.OBJECT_ROOT);
       Fom.ObjectClass known = _fom.objectClass(name);
       Fom.ObjectClass read = known != null ? known : _fom.addObjectClass(name, parent);
-      Set<String> inherited = new HashSet<>();
-      if (parent != null) {
-         parent.attributes.values().forEach(attribute -> inherited.add(attribute.name));
-      }
-      List<Element> attributes = children(element, "attribute");
-      boolean isComplete = known != null && parent != null
-            && known.attributes.size() > parent.attributes.size();
-      if (isComplete && !attributes.isEmpty()
-            && attributes.size() != known.attributes.size() - parent.attributes.size()) {
-         throw new InconsistentFDD("the class " + name + " has two sets of attributes");
-      }
+      List<Element> attributes = Xml.children(element, "attribute");
+      checkMembers(attributes, "the class " + name, "attributes");
       for (Element each : attributes) {
-         readAttribute(each, read, inherited, isComplete);
+         readAttribute(each, read);
       }
-      for (Element each : children(element, "objectClass")) {
+      for (Element each : Xml.children(element, "objectClass")) {
          readObjectClass(each, read);
       }
    }
 
-   private void readAttribute(
-         Element element, Fom.ObjectClass to, Set<String> inherited, boolean isComplete)
+   /** The same set in every module that tells any, and none twice. */
+   private void checkMembers(List<Element> members, String part, String fact)
          throws ErrorReadingFDD, InconsistentFDD {
-      String name = name(element);
-      if (inherited.contains(name)) {
-         throw new InconsistentFDD("a class above " + to.name + " has an attribute " + name);
+      Set<String> names = new TreeSet<>();
+      for (Element each : members) {
+         if (!names.add(Xml.name(each))) {
+            throw inconsistent(part + " has " + Xml.name(each) + " twice among its " + fact);
+         }
       }
-      Fom.Attribute known = to.find(name);
-      if (known == null && isComplete) {
-         throw new InconsistentFDD("the class " + to.name + " has two sets of attributes");
+      if (!names.isEmpty()) {
+         tell(part, fact, names);
       }
-      readSent(element, known != null ? known : _fom.addAttribute(to, name));
+   }
+
+   private void readAttribute(Element element, Fom.ObjectClass to)
+         throws ErrorReadingFDD, InconsistentFDD {
+      String name = Xml.name(element);
+      String part = "the attribute " + name + " of the class " + to.name;
+      Fom.Attribute known = to.own(name);
+      if (known == null) {
+         checkNotInherited(to.find(name) != null || to.isOwnBelow(name), part);
+         known = _fom.addAttribute(to, newName(name, part));
+         readSent(element, known, part);
+         _definitions.assume(
+               part, "order", Fom.ORDERS.get(known.order), _module.designator);
+         _definitions.assume(part, "transportation",
+               _fom.transportationName(known.transportation), _module.designator);
+      } else {
+         readSent(element, known, part);
+      }
+      for (String fact : FACTS_OF_ATTRIBUTES) {
+         if (!Xml.text(element, fact).isEmpty()) {
+            tell(part, fact, Xml.text(element, fact));
+         }
+      }
+   }
+
+   private void checkNotInherited(boolean isInherited, String part) throws InconsistentFDD {
+      if (isInherited) {
+         throw inconsistent("a class above or below has another like " + part);
+      }
    }
 
    private void readInteractionClass(Element element, Fom.InteractionClass parent)
@@ -166,102 +191,80 @@ final class FomReader {
       String name = fullName(element, parent == null ? null : parent.name, Fom.INTERACTION_ROOT);
       Fom.InteractionClass known = _fom.interactionClass(name);
       Fom.InteractionClass read = known != null ? known : _fom.addInteractionClass(name, parent);
-      readSent(element, read);
-      List<Element> parameters = children(element, "parameter");
-      int inherited = parent == null ? 0 : parent.parameters.size();
-      boolean isComplete = known != null && known.parameters.size() > inherited;
-      if (isComplete && !parameters.isEmpty()
-            && parameters.size() != known.parameters.size() - inherited) {
-         throw new InconsistentFDD("the class " + name + " has two sets of parameters");
-      }
+      String part = "the class " + name;
+      readSent(element, read, part);
+      List<Element> parameters = Xml.children(element, "parameter");
+      checkMembers(parameters, part, "parameters");
       for (Element each : parameters) {
-         Integer handle = read.find(name(each));
-         if (handle != null && !isComplete || handle == null && isComplete) {
-            throw new InconsistentFDD("the class " + name + " has two sets of parameters");
-         }
-         if (handle == null) {
-            _fom.addParameter(read, name(each));
-         }
+         readParameter(each, read);
       }
-      for (Element each : children(element, "interactionClass")) {
+      for (Element each : Xml.children(element, "interactionClass")) {
          readInteractionClass(each, read);
       }
    }
 
+   private void readParameter(Element element, Fom.InteractionClass to)
+         throws ErrorReadingFDD, InconsistentFDD {
+      String name = Xml.name(element);
+      String part = "the parameter " + name + " of the class " + to.name;
+      if (!to.isOwn(name)) {
+         checkNotInherited(to.find(name) != null || to.isOwnBelow(name), part);
+         _fom.addParameter(to, newName(name, part));
+      }
+      if (!Xml.text(element, "dataType").isEmpty()) {
+         tell(part, "dataType", Xml.text(element, "dataType"));
+      }
+   }
+
    /** What the element does not tell stays as it was. */
-   private void readSent(Element element, Fom.Sent to) throws InconsistentFDD {
-      String order = text(element, "order");
-      if (order != null) {
-         to.order = order.equalsIgnoreCase("TimeStamp") ? Fom.TIMESTAMP : Fom.RECEIVE;
+   private void readSent(Element element, Fom.Sent to, String part) throws InconsistentFDD {
+      String order = Xml.text(element, "order");
+      if (!order.isEmpty()) {
+         int code = Fom.ORDERS.indexOf(order);
+         if (code < 0) {
+            throw inconsistent(part + " has the unknown order " + order);
+         }
+         tell(part, "order", order);
+         to.order = code;
       }
-      String transportation = text(element, "transportation");
-      if (transportation != null) {
-         to.transportation =
-               transportation.equals("HLAbestEffort") ? Fom.BEST_EFFORT : Fom.RELIABLE;
+      String transportation = Xml.text(element, "transportation");
+      if (!transportation.isEmpty()) {
+         Integer type = _fom.transportation(transportation);
+         if (type == null) {
+            throw inconsistent(part + " has the unknown transportation " + transportation);
+         }
+         tell(part, "transportation", transportation);
+         to.transportation = type;
       }
-      for (Element each : children(element, "dimensions", "dimension")) {
+      Set<Integer> dimensions = new TreeSet<>();
+      for (Element each : Xml.children(element, "dimensions", "dimension")) {
          Fom.Dimension dimension = _fom.dimension(each.getTextContent().trim());
          if (dimension == null) {
-            throw new InconsistentFDD("no dimension has the name " + each.getTextContent().trim());
+            throw inconsistent(
+                  part + " has the unknown dimension " + each.getTextContent().trim());
          }
-         to.dimensions.add(dimension.handle);
+         dimensions.add(dimension.handle);
+      }
+      if (!dimensions.isEmpty()) {
+         tell(part, "dimensions", dimensions);
+         to.dimensions.addAll(dimensions);
       }
    }
 
-   /** The outermost class is the root. */
-   private static String fullName(Element element, String parentName, String root)
+   /** The outermost class is the root. A module gives each class once. */
+   private String fullName(Element element, String parentName, String root)
          throws ErrorReadingFDD, InconsistentFDD {
-      String name = name(element);
+      String name = Xml.name(element);
       if (parentName == null && !name.equals(root)) {
-         throw new InconsistentFDD("the class " + name + " is not below " + root);
+         throw inconsistent("the class " + name + " is not below " + root);
       }
-      return parentName == null ? name : parentName + "." + name;
-   }
-
-   private static String name(Element element) throws ErrorReadingFDD {
-      String name = text(element, "name");
-      if (name == null || name.isEmpty()) {
-         throw new ErrorReadingFDD("a " + localName(element) + " has no name");
+      String full = parentName == null ? name : parentName + "." + name;
+      if (_fom.objectClass(full) == null && _fom.interactionClass(full) == null) {
+         newName(name, "the class " + full);
       }
-      return name;
-   }
-
-   private static double number(Element element, String child, double otherwise)
-         throws ErrorReadingFDD {
-      String text = text(element, child);
-      try {
-         return text == null || text.isEmpty() ? otherwise : Double.parseDouble(text);
-      } catch (NumberFormatException failure) {
-         throw new ErrorReadingFDD("the " + child + " " + text + " is not a number");
+      if (!_given.add(element.getLocalName() + " " + full)) {
+         throw inconsistent("the class " + full + " stands twice");
       }
-   }
-
-   /** The text of the first child of that name, or null. */
-   private static String text(Element element, String child) {
-      List<Element> found = children(element, child);
-      return found.isEmpty() ? null : found.get(0).getTextContent().trim();
-   }
-
-   private static List<Element> children(Element parent, String list, String name) {
-      List<Element> found = new ArrayList<>();
-      for (Element each : children(parent, list)) {
-         found.addAll(children(each, name));
-      }
-      return found;
-   }
-
-   /** The child elements of that name, or all for a null. */
-   private static List<Element> children(Element parent, String name) {
-      List<Element> found = new ArrayList<>();
-      for (Node child = parent.getFirstChild(); child != null; child = child.getNextSibling()) {
-         if (child instanceof Element && (name == null || localName(child).equals(name))) {
-            found.add((Element) child);
-         }
-      }
-      return found;
-   }
-
-   private static String localName(Node node) {
-      return node.getLocalName();
+      return full;
    }
 }

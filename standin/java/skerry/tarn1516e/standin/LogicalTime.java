@@ -2,11 +2,15 @@
 // big-endian, an IEEE double for HLAfloat64Time and a signed integer for every other type.
 package skerry.tarn1516e.standin;
 
+import hla.rti1516e.exceptions.CouldNotCreateLogicalTimeFactory;
 import java.nio.ByteBuffer;
+import java.util.Arrays;
 
 final class LogicalTime implements Comparable<LogicalTime> {
    static final int ENCODED_SIZE = 8;
    static final String FLOAT_NAME = "HLAfloat64Time";
+
+   private static final String INTEGER_NAME = "HLAinteger64Time";
 
    private final boolean _isFloat;
    private final long _bits;
@@ -14,6 +18,17 @@ final class LogicalTime implements Comparable<LogicalTime> {
    private LogicalTime(boolean isFloat, long bits) {
       _isFloat = isFloat;
       _bits = bits;
+   }
+
+   /** The standard's two types, and what the system property names: types that federates bring. An
+       empty name stands for the standard's choice. */
+   static void checkName(String name) throws CouldNotCreateLogicalTimeFactory {
+      String further = System.getProperty("tarn.standin.times", "");
+      if (!name.isEmpty() && !name.equals(FLOAT_NAME) && !name.equals(INTEGER_NAME)
+            && !Arrays.asList(further.split("[, ]+")).contains(name)) {
+         throw new CouldNotCreateLogicalTimeFactory("no time type has the name " + name
+               + "; the system property tarn.standin.times lists further ones");
+      }
    }
 
    static LogicalTime decode(String typeName, byte[] encoded) {

@@ -24,7 +24,7 @@ final class Member {
 
    final Set<Advisory> advisories = EnumSet.noneOf(Advisory.class);
    final Set<String> reservedNames = new HashSet<>();
-   int resignDirective = Resignation.CANCEL_THEN_DELETE_THEN_DIVEST;
+   int resignDirective;
 
    Member(int handle, String name, String type, Federation federation, CallbackQueue callbacks) {
       _handle = handle;
@@ -34,6 +34,7 @@ final class Member {
       _callbacks = callbacks;
       _instanceAdvisories = new InstanceAdvisories(this);
       _time = new TimeState(this);
+      resignDirective = federation.fom().automaticResignAction;
       adopt(Advisory.OBJECT_CLASS_RELEVANCE, "objectClassRelevanceAdvisory", true);
       adopt(Advisory.INTERACTION_RELEVANCE, "interactionRelevanceAdvisory", true);
       adopt(Advisory.ATTRIBUTE_RELEVANCE, "attributeRelevanceAdvisory", false);

@@ -238,7 +238,7 @@ final class ObjectService implements ObjectManagement {
    public void requestAttributeTransportationTypeChange(
          int object, Set<Integer> attributes, int transportation) throws RTIexception {
       Member member = _loopback.workingMember();
-      Checks.transportation(transportation);
+      Checks.transportation(member, transportation);
       ObjectInstance instance = Checks.ownInstance(member, object, attributes);
       for (int attribute : attributes) {
          instance.attributes.get(attribute).transportation = transportation;
@@ -260,7 +260,7 @@ final class ObjectService implements ObjectManagement {
    public void requestInteractionTransportationTypeChange(int interaction, int transportation)
          throws RTIexception {
       Member member = _loopback.workingMember();
-      Checks.transportation(transportation);
+      Checks.transportation(member, transportation);
       Checks.publishedInteraction(member, interaction);
       member.declarations().interactionTransportations.put(interaction, transportation);
       member.callbacks().confirmInteractionTransportationTypeChange(interaction, transportation);

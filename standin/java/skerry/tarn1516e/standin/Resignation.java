@@ -2,6 +2,8 @@
 package skerry.tarn1516e.standin;
 
 import java.util.ArrayList;
+import java.util.Arrays;
+import java.util.List;
 
 final class Resignation {
    static final int UNCONDITIONALLY_DIVEST_ATTRIBUTES = 0;
@@ -10,6 +12,11 @@ final class Resignation {
    static final int DELETE_OBJECTS_THEN_DIVEST = 3;
    static final int CANCEL_THEN_DELETE_THEN_DIVEST = 4;
    static final int NO_ACTION = 5;
+
+   /** In an object model, by their codes. */
+   static final List<String> NAMES = Arrays.asList("UnconditionallyDivestAttributes",
+         "DeleteObjects", "CancelPendingOwnershipAcquisitions", "DeleteObjectsThenDivest",
+         "CancelThenDeleteThenDivest", "NoAction");
 
    private final Member _member;
 

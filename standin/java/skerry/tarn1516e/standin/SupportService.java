@@ -6,8 +6,6 @@ import java.util.Collection;
 import java.util.Collections;
 
 final class SupportService implements SupportServices {
-   private static final String[] ORDERS = {"Receive", "TimeStamp"};
-   private static final String[] TRANSPORTATIONS = {null, "HLAreliable", "HLAbestEffort"};
    private static final int LAST_SERVICE_GROUP = 7;
 
    private final Loopback _loopback;
@@ -202,48 +200,34 @@ final class SupportService implements SupportServices {
    @Override
    public int getOrderType(String name) throws RTIexception {
       _loopback.member();
-      return code(ORDERS, name, () -> new InvalidOrderName("no order has the name " + name));
+      if (!Fom.ORDERS.contains(name)) {
+         throw new InvalidOrderName("no order has the name " + name);
+      }
+      return Fom.ORDERS.indexOf(name);
    }
 
    @Override
    public String getOrderName(int order) throws RTIexception {
       _loopback.member();
-      return name(ORDERS, order, () -> new InvalidOrderType("no order has the code " + order));
+      if (order < 0 || order >= Fom.ORDERS.size()) {
+         throw new InvalidOrderType("no order has the code " + order);
+      }
+      return Fom.ORDERS.get(order);
    }
 
    @Override
    public int getTransportationTypeHandle(String name) throws RTIexception {
-      _loopback.member();
-      return code(TRANSPORTATIONS, name,
-            () -> new InvalidTransportationName("no transportation has the name " + name));
+      Integer found = fom().transportation(name);
+      if (found == null) {
+         throw new InvalidTransportationName("no transportation has the name " + name);
+      }
+      return found;
    }
 
    @Override
    public String getTransportationTypeName(int type) throws RTIexception {
-      _loopback.member();
-      return name(TRANSPORTATIONS, type,
-            () -> new InvalidTransportationType("no transportation has the code " + type));
-   }
-
-   /** Makes the exception for a wrong name or code. */
-   private interface Fault {
-      RTIexception make();
-   }
-
-   private static int code(String[] names, String name, Fault fault) throws RTIexception {
-      for (int code = 0; code < names.length; ++code) {
-         if (name.equals(names[code])) {
-            return code;
-         }
-      }
-      throw fault.make();
-   }
-
-   private static String name(String[] names, int code, Fault fault) throws RTIexception {
-      if (code < 0 || code >= names.length || names[code] == null) {
-         throw fault.make();
-      }
-      return names[code];
+      Checks.transportation(_loopback.member(), type);
+      return fom().transportationName(type);
    }
 
    @Override
@@ -378,6 +362,11 @@ final class SupportService implements SupportServices {
    public void disableInteractionRelevanceAdvisorySwitch() throws RTIexception {
       switchOff(Member.Advisory.INTERACTION_RELEVANCE,
             () -> new InteractionRelevanceAdvisorySwitchIsOff("the switch is off"));
+   }
+
+   /** Makes the exception for a switch that is as it should become. */
+   private interface Fault {
+      RTIexception make();
    }
 
    private void switchOn(Member.Advisory advisory, Fault fault) throws RTIexception {

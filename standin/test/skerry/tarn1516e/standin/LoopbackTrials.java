@@ -126,27 +126,48 @@ public final class LoopbackTrials {
             "a getObjectClassHandle Boat ! NameNotFound", "c connect");
       Path module = Files.createTempFile("model", ".xml");
       play.known.put("MODULE", module.toUri().toString());
-      Map<String, String> faults = new LinkedHashMap<>();
-      faults.put("<objectModel", "ErrorReadingFDD");
-      faults.put("<other/>", "ErrorReadingFDD");
-      faults.put(model("Ship", "Name"), "InconsistentFDD");
-      faults.put(model("Tug", "HLAprivilegeToDeleteObject"), "InconsistentFDD");
-      for (Map.Entry<String, String> fault : faults.entrySet()) {
-         Files.write(module, fault.getKey().getBytes("UTF-8"));
-         play.act("c join F MODULE ! " + fault.getValue());
+      String position = attribute("Position", "<order>Receive</order>");
+      String rest = attribute("Name", "") + attribute("Cargo", "");
+      String[][] faults = {{"<objectModel", "ErrorReadingFDD"}, {"<other/>", "ErrorReadingFDD"},
+            {model("Ship", attribute("Name", "")), "InconsistentFDD Ship {MODULE} Harbour.xml"},
+            {model("Ship", position + rest),
+                  "InconsistentFDD Position HLAobjectRoot.Ship TimeStamp {MODULE} Harbour.xml"},
+            {model("Tug", attribute("HLAprivilegeToDeleteObject", "")), "InconsistentFDD"},
+            {model("Tug", position + position), "InconsistentFDD Tug Position twice"},
+            {model("Tug</name></objectClass><objectClass><name>Tug", ""), "InconsistentFDD twice"},
+            {model("Tug", attribute("Power", "<order>Late</order>")), "InconsistentFDD Late"},
+            {model("Tug", attribute("Power", "<transportation>Pigeon</transportation>")),
+                  "InconsistentFDD Power HLAobjectRoot.Tug Pigeon"},
+            {model("Tug boat", ""), "InconsistentFDD blank"},
+            {model("Tug.Boat", ""), "InconsistentFDD dot"},
+            {model("Tug", attribute("hlaPower", "")), "InconsistentFDD hlaPower HLA"}};
+      for (String[] fault : faults) {
+         Files.write(module, fault[0].getBytes("UTF-8"));
+         play.act("c join F MODULE ! " + fault[1]);
       }
-      Files.write(module, model("Tug", "Power").getBytes("UTF-8"));
+      position = position.replace("Receive", "TimeStamp");
+      Files.write(module, model("Tug", attribute("Power", "") + "</objectClass><objectClass><name>Ship"
+                  + "</name>" + position + rest).replace("<objects>", "<transportations>"
+                  + "<transportation><name>Pigeon</name></transportation></transportations>"
+                  + "<objects>").getBytes("UTF-8"));
       play.act("c join F MODULE", "Tug = a getObjectClassHandle Tug",
             "Power = a getAttributeHandle Tug Power", "c getAttributeName Tug Power ? Power",
-            "c getObjectClassHandle HLAobjectRoot.Ship ? Ship");
+            "c getObjectClassHandle HLAobjectRoot.Ship ? Ship",
+            "a getTransportationTypeHandle Pigeon ? 3", "a getTransportationTypeName 3 ? Pigeon");
       Files.delete(module);
       play.act("d connect", "d join F MODULE ! CouldNotOpenFDD");
+      fails(InconsistentFDD.class, () -> play.federates.get("d").rti.federation
+            .createFederationExecution("E", Collections.emptyList(), ""));
    }
 
-   private static String model(String objectClass, String attribute) {
+   private static String model(String objectClass, String attributes) {
       return "<objectModel><objects><objectClass><name>HLAobjectRoot</name><objectClass><name>"
-            + objectClass + "</name><attribute><name>" + attribute
-            + "</name></attribute></objectClass></objectClass></objects></objectModel>";
+            + objectClass + "</name>" + attributes
+            + "</objectClass></objectClass></objects></objectModel>";
+   }
+
+   private static String attribute(String name, String facts) {
+      return "<attribute><name>" + name + "</name>" + facts + "</attribute>";
    }
 
    private static void objectScenes() {
@@ -345,6 +366,7 @@ public final class LoopbackTrials {
             "a destroyFederationExecution F ! FederatesCurrentlyJoined",
             "a destroyFederationExecution none ! FederationExecutionDoesNotExist",
             "a createFederationExecution M - HLAstandardMIM - ! DesignatorIsHLAstandardMIM",
+            "a createFederationExecution T HARBOUR TickTime ! CouldNotCreateLogicalTimeFactory",
             "a resignFederationExecution 6 ! InvalidResignAction", "c connect",
             "c resignFederationExecution 5 ! FederateNotExecutionMember",
             "c joinFederationExecution A_1 C F -",

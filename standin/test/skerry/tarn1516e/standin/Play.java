@@ -4,7 +4,7 @@
 //    a service Ship 5    calls a service; names stand for the handles that they were given
 //    s = a service Ship  calls it and gives its answer a name
 //    a service ? 5       compares its answer
-//    a service ! Fault   is refused with that exception
+//    a service ! Fault x is refused with that exception, and the words in its message
 //    b: one | two        compares all callbacks since the last time, as Trial tells them
 // Arguments: sets "Name,Position", values "Name=5", attributes over regions "Position:r,q", ranges
 // "0-100", times and tags "@5"; "-" is nothing. A "{s}" within a word is what s stands for.
@@ -56,6 +56,7 @@ final class Play {
       Trial.same(true, call.matches());
       String[] words = call.group(4).trim().split(" ");
       String[] arguments = words[0].isEmpty() ? new String[0] : words;
+      String wanted = call.group(6) == null ? "" : call.group(6);
       String answer;
       boolean isRefused = false;
       try {
@@ -63,10 +64,16 @@ final class Play {
       } catch (RTIexception refused) {
          answer = refused.getClass().getSimpleName();
          isRefused = true;
+         for (String word : wanted.substring(wanted.indexOf(' ') + 1).split(" ")) {
+            String part = word.startsWith("{") ? replaced(word) : word;
+            if (!(answer + refused.getMessage()).contains(part)) {
+               throw new AssertionError("there is no " + part + " in: " + refused.getMessage());
+            }
+         }
+         wanted = wanted.split(" ")[0];
       }
-      String wanted = call.group(6);
       Trial.same("!".equals(call.group(5)) ? "refused" : "done", isRefused ? "refused" : "done");
-      if (wanted != null && !wanted.equals(answer)) {
+      if (call.group(5) != null && !wanted.equals(answer)) {
          Trial.same(replaced(wanted), answer);
       }
       known.put("" + call.group(1), answer);
