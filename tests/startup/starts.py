@@ -20,7 +20,6 @@ the steps of a start may be, see starter.cpp. All texts may name
 import difflib
 import os
 import re
-import shutil
 import subprocess
 import sys
 from concurrent.futures import ThreadPoolExecutor
@@ -447,8 +446,10 @@ def run(to, row, jdk):
             Path(folder).mkdir(parents=True)
         for file in (to.library, to.fedtime):
             (scratch / "home/lib/x" / file.name).symlink_to(file)
-        # A copy: the system takes a link's target for the place of a program.
-        starter = shutil.copy(to.starter, scratch / "home/lib/x")
+        # A copy: the system takes a link's target for the place of a program. It is made by another
+        # process, since one that this forks meanwhile would hold the file open for writing.
+        starter = scratch / "home/lib/x" / to.starter.name
+        subprocess.run(["cp", to.starter, starter], check=True)
         for name, content in row["lay"].items():
             lay(scratch / name.format_map(known), content.format_map(known))
         environment = {name.format_map(known): value.format_map(known).encode("latin-1")
