@@ -33,6 +33,28 @@ jint (*createJavaVM_Fptr)(JavaVM**, void**, void*);
 
 int const optionLimit = 50; // entries that the option file may fill
 
+std::wstring jniResult(long status)
+{
+   switch (status) {
+   case 0:
+      return L"OK";
+   case -1:
+      return L"Unknown error (-1)";
+   case -2:
+      return L"JVM Detached (-2)";
+   case -3:
+      return L"JNI Version Error (-3)";
+   case -4:
+      return L"Not enough JVM memory allocated (-4)";
+   case -5:
+      return L"VM already created (-5)";
+   case -6:
+      return L"Invalid JVM arguments (-6)";
+   default:
+      return wformat(L"Unknown JVM error %ld", status);
+   }
+}
+
 void failIfNegative(jint status, char const* pattern)
 {
    if (status < 0) {
@@ -43,6 +65,141 @@ void failIfNegative(jint status, char const* pattern)
 bool isSet(char const* variable)
 {
    return std::getenv(variable) != nullptr;
+}
+
+std::string get_current_path()
+{
+   char path[512];
+   return getcwd(path, sizeof path) != nullptr ? path : "<error retrieving current directory>";
+}
+
+// ---- The installation, and the VM library ----------------------------------------------------
+
+std::string findTarnHome()
+{
+   char const* const path = libraryFile();
+   if (path == nullptr) {
+      fail(text::noLibraryFile);
+   }
+   if (*path != '\0') {
+      trace("Loaded tarn1516e library from '" + std::string(path) + "'");
+   }
+   for (std::string const& candidate : homeCandidates(path)) {
+      if (isTarnHome(candidate)) {
+         return candidate;
+      }
+   }
+   return std::string();
+}
+
+std::string findJvm(std::string const& home)
+{
+   std::string path = home + vmBelowHome;
+   trace("Looking for JVM at '" + path + "'");
+   if (!fileExists(path)) {
+      return std::string();
+   }
+   trace("Found JVM at '" + path + "'");
+   return path;
+}
+
+[[noreturn]] void reportJvmLoadingError(char const* variable)
+{
+   char const* const value = std::getenv(variable);
+   std::string const text =
+         format(text::noVm, variable, variable, value != nullptr ? value : "(unknown)");
+   trace(text);
+   fail(text);
+}
+
+// A VM on the library path comes before the installation's own.
+void* openJvm(std::string const& home)
+{
+   int const mode = RTLD_NOW | RTLD_GLOBAL;
+   if (void* const handle = dlopen(vmLibraryName, mode)) {
+      trace(text::vmOnLibraryPath);
+      return handle;
+   }
+   if (home.empty()) {
+      reportJvmLoadingError("LD_LIBRARY_PATH");
+   }
+   std::string const path = findJvm(home);
+   if (path.empty()) {
+      fail(text::noVmInHome);
+   }
+   void* const handle = dlopen(path.c_str(), mode);
+   if (handle == nullptr) {
+      fail(filled(text::vmNotLoaded, {path, dlerror()}));
+   }
+   trace(filled(text::vmOfHome, {path}));
+   return handle;
+}
+
+template <class Function>
+void findEntryPoint(void* handle, char const* name, Function& function)
+{
+   function = reinterpret_cast<Function>(dlsym(handle, name));
+   if (function == nullptr) {
+      char const* const error = dlerror();
+      fail(filled(text::noEntryPoint, {name, error != nullptr ? error : ""}));
+   }
+}
+
+void loadJvm(std::string const& home)
+{
+   void* const handle = openJvm(home);
+   findEntryPoint(handle, "JNI_GetCreatedJavaVMs", getCreatedJavaVMs_FPtr);
+   findEntryPoint(handle, "JNI_CreateJavaVM", createJavaVM_Fptr);
+}
+
+// ---- The options of a new VM -----------------------------------------------------------------
+
+char* allocString(std::string const& text)
+{
+   char* const copy = new char[text.size() + 1];
+   std::memcpy(copy, text.c_str(), text.size() + 1);
+   return copy;
+}
+
+std::string classPathOption(std::string const& home)
+{
+   std::string const jar = home + jarBelowHome;
+   trace((fileExists(jar) ? "Tarn java libs found in '" : "No Tarn java libs found in '") + jar
+         + "'");
+   std::string const option = "-Djava.class.path=" + classPath(home);
+   trace("Setting classpath to '" + option + "'");
+   return option;
+}
+
+bool hasOption(JavaVMOption const* options, int count, char const* prefix)
+{
+   for (int i = 0; i < count; ++i) {
+      if (std::strncmp(options[i].optionString, prefix, std::strlen(prefix)) == 0) {
+         return true;
+      }
+   }
+   return false;
+}
+
+// An option that is not wanted stays as an empty text, so that the first five entries are always
+// the same five.
+void loadOptions(JavaVMOption* options, int& optionCount, int maxOptions, std::string const& home)
+{
+   auto const append = [&](std::string const& text) {
+      options[optionCount++].optionString = allocString(text);
+   };
+   append(classPathOption(home));
+   append("-DTarn.libraryName=rti1516");
+   append(isSet("TARN_ENABLEBUNDLING") ? "-DenableBundling=true" : "");
+   append(isSet("TARN_SINGLETHREAD") ? "-Dsinglethread=true" : "");
+   append(isSet("TARN_VERBOSEJNI") ? "-verbose:jni" : "");
+   for (GivenOption const& option : givenOptions(maxOptions - optionCount)) {
+      append(option.text);
+   }
+   if (!hasOption(options, optionCount, "-Xss")) {
+      options[optionCount].extraInfo = nullptr;
+      append("-Xss1024k");
+   }
 }
 
 } // namespace
@@ -125,171 +282,6 @@ void JVM::attach()
    _instance = env;
    _isShared = true;
    trace(text::attached);
-}
-
-std::wstring jniResult(long status)
-{
-   switch (status) {
-   case 0:
-      return L"OK";
-   case -1:
-      return L"Unknown error (-1)";
-   case -2:
-      return L"JVM Detached (-2)";
-   case -3:
-      return L"JNI Version Error (-3)";
-   case -4:
-      return L"Not enough JVM memory allocated (-4)";
-   case -5:
-      return L"VM already created (-5)";
-   case -6:
-      return L"Invalid JVM arguments (-6)";
-   default:
-      return wformat(L"Unknown JVM error %ld", status);
-   }
-}
-
-std::string get_current_path()
-{
-   char path[512];
-   return getcwd(path, sizeof path) != nullptr ? path : "<error retrieving current directory>";
-}
-
-// ---- The installation, and the VM library ----------------------------------------------------
-
-std::string findTarnHome()
-{
-   char const* const path = libraryFile();
-   if (path == nullptr) {
-      fail(text::noLibraryFile);
-   }
-   if (*path != '\0') {
-      trace("Loaded tarn1516e library from '" + std::string(path) + "'");
-   }
-   for (std::string const& candidate : homeCandidates(path)) {
-      if (isTarnHome(candidate)) {
-         return candidate;
-      }
-   }
-   return std::string();
-}
-
-namespace {
-
-// A VM on the library path comes before the installation's own.
-void* openJvm(std::string const& home)
-{
-   int const mode = RTLD_NOW | RTLD_GLOBAL;
-   if (void* const handle = dlopen(vmLibraryName, mode)) {
-      trace(text::vmOnLibraryPath);
-      return handle;
-   }
-   if (home.empty()) {
-      reportJvmLoadingError("LD_LIBRARY_PATH");
-   }
-   std::string const path = findJvm(home);
-   if (path.empty()) {
-      fail(text::noVmInHome);
-   }
-   void* const handle = dlopen(path.c_str(), mode);
-   if (handle == nullptr) {
-      fail(filled(text::vmNotLoaded, {path, dlerror()}));
-   }
-   trace("Using bundled JVM in '" + path + "'");
-   return handle;
-}
-
-template <class Function>
-void findEntryPoint(void* handle, char const* name, Function& function)
-{
-   function = reinterpret_cast<Function>(dlsym(handle, name));
-   if (function == nullptr) {
-      char const* const error = dlerror();
-      fail(filled(text::noEntryPoint, {name, error != nullptr ? error : ""}));
-   }
-}
-
-} // namespace
-
-void loadJvm(std::string const& home)
-{
-   void* const handle = openJvm(home);
-   findEntryPoint(handle, "JNI_GetCreatedJavaVMs", getCreatedJavaVMs_FPtr);
-   findEntryPoint(handle, "JNI_CreateJavaVM", createJavaVM_Fptr);
-}
-
-std::string findJvm(std::string const& home)
-{
-   std::string path = home + vmBelowHome;
-   trace("Looking for JVM at '" + path + "'");
-   if (!fileExists(path)) {
-      return std::string();
-   }
-   trace("Found JVM at '" + path + "'");
-   return path;
-}
-
-void reportJvmLoadingError(char const* variable)
-{
-   char const* const value = std::getenv(variable);
-   std::string const text =
-         format(text::noVm, variable, variable, value != nullptr ? value : "(unknown)");
-   trace(text);
-   fail(text);
-}
-
-// ---- The options of a new VM -----------------------------------------------------------------
-
-namespace {
-
-char* allocString(std::string const& text)
-{
-   char* const copy = new char[text.size() + 1];
-   std::memcpy(copy, text.c_str(), text.size() + 1);
-   return copy;
-}
-
-std::string classPathOption(std::string const& home)
-{
-   std::string const jar = home + jarBelowHome;
-   trace((fileExists(jar) ? "Tarn java libs found in '" : "No Tarn java libs found in '") + jar
-         + "'");
-   std::string const option = "-Djava.class.path=" + classPath(home);
-   trace("Setting classpath to '" + option + "'");
-   return option;
-}
-
-} // namespace
-
-// An option that is not wanted stays as an empty text, so that the first five entries are always
-// the same five.
-void loadOptions(JavaVMOption* options, int& optionCount, int maxOptions, std::string const& home)
-{
-   auto const append = [&](std::string const& text) {
-      options[optionCount++].optionString = allocString(text);
-   };
-   append(classPathOption(home));
-   append("-DTarn.libraryName=rti1516");
-   append(isSet("TARN_ENABLEBUNDLING") ? "-DenableBundling=true" : "");
-   append(isSet("TARN_SINGLETHREAD") ? "-Dsinglethread=true" : "");
-   append(isSet("TARN_VERBOSEJNI") ? "-verbose:jni" : "");
-   for (GivenOption const& option : givenOptions(maxOptions - optionCount)) {
-      append(option.text);
-   }
-   if (!hasOption(optionCount, options, "-Xss")) {
-      options[optionCount].extraInfo = nullptr;
-      append("-Xss1024k");
-   }
-}
-
-bool hasOption(int& optionCount, JavaVMOption* options, char const* prefix)
-{
-   for (int i = 0; i < optionCount; ++i) {
-      if (std::strncmp(options[i].optionString, prefix, std::strlen(prefix)) == 0) {
-         return true;
-      }
-   }
-   return false;
 }
 
 } // namespace tarn1516e

@@ -52,19 +52,6 @@ private:
    JNIEnv* _env;
 };
 
-// The steps of start-up, in their order. A home is the directory of an installation, with its
-// trailing '/', or empty.
-std::string findTarnHome();
-void loadJvm(std::string const& home);
-void loadOptions(JavaVMOption* options, int& optionCount, int maxOptions, std::string const& home);
-
-// What they are made of.
-std::string get_current_path();
-std::wstring jniResult(long status);
-std::string findJvm(std::string const& home);
-[[noreturn]] void reportJvmLoadingError(char const* variable);
-bool hasOption(int& optionCount, JavaVMOption* options, char const* prefix);
-
 } // namespace tarn1516e
 
 #endif

@@ -33,6 +33,7 @@ char const nativesRefused[] = "Failed to register native functions.\n";
 char const traceVariable[] = "TARN1516E_TRACE_LOAD";
 char const tracePrefix[] = "TARN1516E_TRACE_LOAD: ";
 char const vmOnLibraryPath[] = "JVM was available on library path";
+char const vmOfHome[] = "Using bundled JVM in '%s'";
 char const creating[] = "Attempting to create new JVM";
 char const created[] = "Created new JVM";
 char const attaching[] = "Attempting to attach to existing JVM";
