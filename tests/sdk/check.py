@@ -1,6 +1,7 @@
 """tarn1516e-check in many homes: what it says where a federate starts, and how it tells apart why
 one does not start."""
 
+import json
 import os
 import re
 import shutil
@@ -49,6 +50,25 @@ class Place:
             path.parent.mkdir(parents=True, exist_ok=True)
             path.write_bytes(content)
 
+    def move_to(self, name):
+        self.home = self.home.rename(self.home.parent / name)
+        self.jar = self.home / "lib/tarn1516e.jar"
+
+    def another_library(self):
+        for library in (self.home / "lib" / self.to.toolchain).iterdir():
+            shutil.copy(library, self.work)
+
+    def class_in_the_way(self):
+        with zipfile.ZipFile(self.jar) as jar:
+            jar.extract(CORE, self.work)
+
+    def jre_to_nowhere(self):
+        self.without("jre")
+        (self.home / "jre").symlink_to("/no/runtime")
+
+    def option_file(self, text):
+        (self.work / "tarn.vmoptions").write_text(text)
+
     def of_another_machine(self):
         library = self.home / "lib" / self.to.toolchain / "libfedtime1516e.so"
         content = bytearray(library.read_bytes())
@@ -83,33 +103,62 @@ class Place:
     def jar_that_does_not_connect(self):
         source = (self.to.source / "standin/generated" / ADAPTER).with_suffix(".java").read_text()
         changed, count = re.subn(
-            r"( connect_FA_CM_S\(byte\[\] \w+\) throws RTIexception \{)",
-            r'\1 if (true) throw new IllegalStateException("no RTI answers");', source)
+            r"( connect_FA_CM_S\(byte\[\] body\) throws RTIexception \{)",
+            r'\1 if (true) throw new IllegalStateException("no RTI at " + new String('
+            "body, 12, body[11] * 2, java.nio.charset.StandardCharsets.UTF_16BE));", source)
         assert count == 1, "the stand-in's connect looks otherwise than expected"
         self.jar_with(ADAPTER, changed)
 
 
-def case(name, prepare=None, env=None, arguments=(), step=None, finding="", advice="", also=()):
+def case(name, prepare=None, env=None, arguments=(), step=None, finding="", advice="", also=(),
+         warnings=()):
     return dict(locals())
 
 
 SPARE_ADAPTER = "package skerry.tarn1516e; public class RTIambassadorC2007 {}"
 SPARE_NATIVES = "package skerry.tarn1516e; public class FederateAmbassadorC2007 {}"
 
-# A case without a step is one where all is well. `finding` and `advice` are the beginnings of what
-# is to be said; `also` stands somewhere in the output.
+SLEEPING = ("package skerry.tarn1516e; public class RTIambassadorC2007 { static volatile boolean on = "
+            "true; static { while (on) java.util.concurrent.locks.LockSupport.park(); } }")
+
+# A case without a step is one where a federate starts. `finding` and `advice` are the beginnings of
+# what is to be said; `also` stands somewhere in the output; `warnings` are all that there are, each a
+# step and how it begins.
 CASES = (
     case("an installation", also=("(the library lies in it)", "(Java ", ", below the home)",
-                                  "{home}/lib/tarn1516e.jar\n", "options         none given")),
+                                  "{jar} (the stand-in for trials, not an RTI)\n",
+                                  "options         none given",
+                                  "class path      :", " (what is empty is the current directory)")),
     case("everything from outside", Place.not_a_home,
          {"LD_LIBRARY_PATH": "{server}", "CLASSPATH": "{work}/classes.jar"},
-         also=("home            none; ", "jar             {work}/classes.jar\n")),
+         also=("home            none; ", "jar             {work}/classes.jar ")),
     case("options of both kinds",
-         lambda p: (p.work / "tarn.vmoptions").write_text("# none\n-Xmx100m\n"),
+         lambda p: p.option_file("# none\n-Xmx100m\n"),
          {"TARN1516_OPTION3": "-Da=b"},
          also=("options         -Da=b (TARN1516_OPTION3), -Xmx100m (tarn.vmoptions)",)),
-    case("a class path that partly exists", None, {"CLASSPATH": "/no/such.jar:{jar}"},
-         also=("(does not exist: /no/such.jar)",)),
+    case("a class path that partly exists, with a name in no encoding", None,
+         {"CLASSPATH": '/no/\udcff"\\.jar:{jar}'},
+         warnings=(("class path", 'CLASSPATH leads nowhere: /no/\ufffd"\\.jar'),)),
+    case("a class path to nowhere", None, {"CLASSPATH": "/no/such.jar:/no/*"},
+         warnings=(("class path", "CLASSPATH leads nowhere: /no/such.jar, /no/*"),)),
+    case("a class that hides the jar's", Place.class_in_the_way, also=("jar             {work}\n",),
+         warnings=(("jar", "{work} has skerry.tarn1516e.RtiFactoryImpl, and hides the one of {jar}"),)),
+    case("options that go astray", lambda p: p.option_file(" -Da=b\n-Dx=y\r\n"),
+         {"TARN1516_OPTION1": "-XX:+UseG1GCC", "TARN1516_OPTION20": "-Da=b",
+          "JAVA_TOOL_OPTIONS": "-Db=c", "_JAVA_OPTIONS": "-Dd=e"},
+         warnings=(("options", "TARN1516_OPTION20 is not read"),
+                   ("options", "' -Da=b' in tarn.vmoptions begins with a blank"),
+                   ("options", "'-Dx=y\\r' in tarn.vmoptions ends in a carriage return"),
+                   ("options", "JAVA_TOOL_OPTIONS is set, and the VM follows it too: -Db=c"),
+                   ("options", "_JAVA_OPTIONS is set, and the VM follows it too: -Dd=e"),
+                   ("VM", "the VM does not know the option '-XX:+UseG1GCC' in TARN1516_OPTION1"),
+                   ("VM", "the VM does not know the option ' -Da=b' in tarn.vmoptions"))),
+    case("another library on the path", Place.another_library,
+         {"LD_LIBRARY_PATH": "{work}", "TARN1516E_HOME": "{home}"},
+         warnings=(("library", "{work}/librti1516e.so.5 comes before {home}/lib/"),)),
+    case("a link to no runtime, and a VM on the path", Place.jre_to_nowhere,
+         {"LD_LIBRARY_PATH": "{server}"},
+         warnings=(("VM", "{home}/jre is a link to /no/runtime, which is not there"),)),
     case("a VM on the library path", lambda p: p.without("jre"), {"LD_LIBRARY_PATH": "{server}"},
          also=(", on the library path)",)),
     case("all that was written", arguments=("--verbose",),
@@ -122,6 +171,9 @@ CASES = (
     case("no VM and no home", Place.not_a_home, step="VM",
          finding="no libjvm.so on the library path, and no home to look in",
          advice="put the folder of libjvm.so on LD_LIBRARY_PATH, or set TARN1516E_HOME"),
+    case("a link to no runtime", Place.jre_to_nowhere, step="VM",
+         finding="no libjvm.so on the library path, and no {vm}; {home}/jre is a link to /no/runtime",
+         advice="link a Java runtime there"),
     # A VM of another architecture.
     case("a VM for another processor", Place.of_another_machine, step="VM",
          finding="{vm} is for ", advice="use a Java runtime for "),
@@ -136,6 +188,14 @@ CASES = (
     # No jar.
     case("no jar", lambda p: p.without("lib/tarn1516e.jar"), step="jar",
          finding="no tarn1516e.jar at {jar} and none on CLASSPATH", advice="copy the RTI's"),
+    case("a jar that can't be read", lambda p: p.jar.chmod(0), step="jar",
+         finding="{jar} can't be read", advice="let this user read it"),
+    case("a home with a colon", lambda p: p.move_to("a:b"), step="jar",
+         finding="Java does not find {jar}: the home's path holds a colon",
+         advice="move the installation", warnings=(("home", "{home} holds a colon"),)),
+    case("a home that Java can't read", lambda p: p.move_to("\xe9"), {"LC_ALL": "C"}, step="jar",
+         finding="Java does not find {jar}: the home's path holds letters",
+         advice="move the installation", warnings=(("home", "{home} holds letters"),)),
     # A wrong jar.
     case("a jar that is a text", lambda p: p.jar.write_text("no jar"), step="jar",
          finding="{jar} is no jar", advice="put the RTI's own tarn1516e.jar in its place."),
@@ -158,7 +218,7 @@ CASES = (
          finding="it does not start: ",
          advice="mend or remove the VM option '-Xmx1kk' in TARN1516_OPTION2", also=("   | ",)),
     case("a bad option in the file",
-         lambda p: (p.work / "tarn.vmoptions").write_text("-Xms9z\n"), step="VM",
+         lambda p: p.option_file("-Xms9z\n"), step="VM",
          finding="it does not start: ",
          advice="mend or remove the VM option '-Xms9z' in tarn.vmoptions"),
     # An unreadable option file.
@@ -168,10 +228,6 @@ CASES = (
     case("an option file that leads nowhere",
          lambda p: (p.work / "tarn.vmoptions").symlink_to("nowhere"), step="options",
          finding="{work}/tarn.vmoptions is there and can't be read"),
-    # CLASSPATH pointing nowhere.
-    case("a class path to nowhere", None, {"CLASSPATH": "/no/such.jar:/no/*"}, step="class path",
-         finding="CLASSPATH leads nowhere: /no/such.jar, /no/*",
-         advice="correct CLASSPATH or unset it"),
     # A home without its marker.
     case("a home without its marker", lambda p: p.without("versioninfo.txt"), step="home",
          finding="{home} has jre, but no versioninfo.txt",
@@ -192,9 +248,13 @@ CASES = (
          finding="the Java constructor threw: no license",
          advice="look into the RTI's own settings and start-up", also=("   | ",)),
     case("a connection that fails", Place.jar_that_does_not_connect,
-         arguments=("--settings", "anywhere"), step="first connect",
-         finding="RTIinternalError: java.lang.IllegalStateException: no RTI answers",
+         arguments=("--settings", "\xe9\u0142\u6e2f"), step="first connect",
+         finding="RTIinternalError: java.lang.IllegalStateException: no RTI at \xe9\u0142\u6e2f",
          advice="see that the RTI runs"),
+    # A VM that hangs.
+    case("a start without an end", lambda p: p.jar_with(ADAPTER, SLEEPING),
+         arguments=("--timeout", "1"), step="classes", finding="no answer within 1 s",
+         advice="see by the threads' stacks below", also=("RTIambassadorC2007.<clinit>",)),
 )
 
 USAGE = (
@@ -203,12 +263,13 @@ USAGE = (
     (("--version",), 0, "tarn1516e-check {version}\n"),
     (("--nonsense",), 2, "Try tarn1516e-check --help."),
     (("nonsense",), 2, "what is 'nonsense'?"),
+    (("--timeout", "0"), 2, "The timeout is a number of seconds"),
     (("--settings",), 2, "Try tarn1516e-check --help."),
 )
 
 
 def expected_lines(one, names):
-    """Beginnings of the lines from the first on."""
+    """Beginnings of the lines from the first on, without the warnings."""
     lines = []
     for step in STEPS:
         if step == one["step"]:
@@ -216,26 +277,64 @@ def expected_lines(one, names):
             lines.append(f"What to do: {one['advice'].format(**names)}")
             return lines
         lines.append(f"{step:15} ")
-    return lines + ["All is well: a federate starts here."]
+    return lines + [f"A federate starts here; warnings: {len(one['warnings'])}."
+                    if one["warnings"] else "All is well: a federate starts here."]
+
+
+def without_warnings(lines):
+    """The other lines, and the warnings, each without what to do about it."""
+    others, warnings, lines = [], [], iter(lines)
+    for line in lines:
+        if line[16:].startswith("WARNING: "):
+            warnings.append(line)
+            assert next(lines).startswith("What to do: "), line
+        else:
+            others.append(line)
+    return others, warnings
+
+
+def lines_of_json(text):
+    """The findings as they would be told in lines."""
+    kinds = {"found": "", "warning": "WARNING: ", "failed": "FAILED: "}
+    for finding in json.loads(text)["findings"]:
+        yield f"{finding['step']:15} {kinds[finding['result']]}{finding['finding']}"
+        if finding["remedy"]:
+            yield f"What to do: {finding['remedy']}"
 
 
 def try_case(one, place, differences):
-    names = place.names()
     if one["prepare"]:
         one["prepare"](place)
+    names = place.names()
     env = {name: value.format(**names) for name, value in (one["env"] or {}).items()}
-    arguments = [argument.format(**names) for argument in one["arguments"]]
-    output = sdk.run(place.home / "bin/tarn1516e-check", *arguments, cwd=place.work, env=env,
-                     expect=1 if one["step"] else 0)
-    lines = output.splitlines()
-    for number, beginning in enumerate(expected_lines(one, names)):
-        line = lines[number] if number < len(lines) else "(no more)"
+    # The super-user reads what no one may, unless these are taken away.
+    plain = ("setpriv", "--bounding-set=-dac_override,-dac_read_search") if not os.geteuid() else ()
+    command = (*plain, place.home / "bin/tarn1516e-check", *one["arguments"])
+    output, as_json = (
+        sdk.run(*(str(part).format(**names) for part in (*command, *more)), cwd=place.work, env=env,
+                expect=1 if one["step"] else 0) for more in ((), ("--json",)))
+    lines, warnings = without_warnings(output.splitlines())
+    expected = expected_lines(one, names) + [
+        f"{step:15} WARNING: {text.format(**names)}" for step, text in one["warnings"]]
+    found = lines[:len(expected) - len(one["warnings"])] + warnings
+    for number in range(max(len(expected), len(found))):
+        line, beginning = ((texts[number:] or ["(no more)"])[0] for texts in (found, expected))
         differences.check(f"{one['name']}, line {number + 1}", line.startswith(beginning),
                           f"\n   expected: {beginning}\n   found:    {line}")
     for text in one["also"]:
         differences.check(one["name"], text.format(**names) in output,
                           f"no '{text.format(**names)}' in\n{output}")
-    differences.check(one["name"], ("FAILED" in output) == bool(one["step"]), output)
+    told = list(lines_of_json(as_json))
+    differences.check(f"{one['name']}, as JSON", told == output.splitlines()[:len(told)], as_json)
+    left = [path for path in Path("/proc").glob("[0-9]*/cwd") if cwd_of(path) == place.work]
+    differences.check(one["name"], not left, f"processes left: {left}")
+
+
+def cwd_of(path):
+    try:
+        return path.readlink()
+    except OSError:  # it has ended, or is another user's
+        return None
 
 
 def main():

@@ -1,3 +1,4 @@
+// Reads the directory of a zip archive.
 #include "tools/tarn1516e-check/Archive.h"
 
 #include <fstream>

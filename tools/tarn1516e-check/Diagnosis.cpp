@@ -1,46 +1,38 @@
+// The steps of start-up, and how each of its failures is known.
 #include "tools/tarn1516e-check/Diagnosis.h"
 
 #include "jvm/Platform.h"
+#include "jvm/StartTexts.h"
 #include "tools/tarn1516e-check/Archive.h"
 #include "tools/tarn1516e-check/Surroundings.h"
 #include <RTI/RTI1516.h>
 
 #include <algorithm>
-#include <cstdio>
+#include <cctype>
 #include <cstdlib>
-#include <sstream>
-#include <unistd.h>
 
 namespace check {
 
 namespace {
 
-char const marker[] = "/versioninfo.txt";
-char const coreClass[] = "skerry/tarn1516e/RtiFactoryImpl";
-char const adapterClass[] = "skerry/tarn1516e/RTIambassadorC2007";
-char const nativeClass[] = "skerry/tarn1516e/FederateAmbassadorC2007";
+namespace text = tarn1516e::text;
+using tarn1516e::GivenOption;
 
-bool found(char const* step, std::string const& what)
+// The library has room for as many besides its own five.
+int const optionsGiven = 45;
+
+std::string const standInPackage = "skerry/tarn1516e/standin";
+
+// What stands in front of a text's first hole.
+std::string beginningOf(std::string const& pattern)
 {
-   std::printf("%-15s %s\n", step, what.c_str());
-   return true;
+   return pattern.substr(0, pattern.find('%'));
 }
 
-bool failed(std::string const& step, std::string const& what, std::string const& advice)
+bool isOf(std::string const& text, std::string const& pattern)
 {
-   std::printf("%-15s FAILED: %s\n", step.c_str(), what.c_str());
-   std::printf("What to do: %s\n", advice.c_str());
-   return false;
-}
-
-bool startsWith(std::string const& text, std::string const& beginning)
-{
+   std::string const beginning = beginningOf(pattern);
    return text.compare(0, beginning.size(), beginning) == 0;
-}
-
-bool holds(std::string const& text, std::string const& part)
-{
-   return text.find(part) != std::string::npos;
 }
 
 std::string dotted(std::string name)
@@ -54,311 +46,441 @@ std::string firstLine(std::string const& text)
    return text.substr(0, text.find('\n'));
 }
 
-// The directory two levels above the library.
-std::string aroundLibrary()
-{
-   return resolved(directoryOf(libraryFile()) + "/../..");
-}
-
-// The same two places, in the same order, as the library itself looks at.
+// Where the library looks for the home, in its order, and takes it from.
 std::string findHome()
 {
-   for (std::string const& place : {aroundLibrary(), valueOf("TARN1516E_HOME")}) {
-      if (!place.empty() && exists(place + marker)) {
-         return resolved(place);
+   for (std::string const& place : tarn1516e::homeCandidates(tarn1516e::libraryFile())) {
+      if (tarn1516e::isTarnHome(place)) {
+         return place;
       }
    }
    return std::string();
 }
 
-std::string currentDirectory()
+std::string aroundLibrary()
 {
-   return resolved(".");
-}
-
-// The element of the options that the VM names in what it says, or nothing.
-std::string culprit(std::string const& output)
-{
-   for (Option const& option : optionsGiven()) {
-      if (!option.text.empty() && holds(output, option.text)) {
-         return "'" + option.text + "' in " + option.source;
-      }
-   }
-   return std::string();
+   return resolved(tarn1516e::homeCandidates(tarn1516e::libraryFile()).front());
 }
 
 } // namespace
 
-Diagnosis::Diagnosis(Request request) : _home(findHome())
+Diagnosis::Diagnosis(Request const& request, Report& report)
+      : _request(request),
+        _report(report),
+        _home(findHome()),
+        _options(tarn1516e::givenOptions(optionsGiven)),
+        _trial(request, _home)
 {
-   request.home = _home;
-   _trial = tryToStart(request);
 }
 
-bool Diagnosis::tell() const
+bool Diagnosis::run()
 {
-   return library() && home() && options() && vm() && classPath() && jar() && classes() && natives()
-         && ambassador() && firstConnect();
-}
-
-void Diagnosis::tellTrace() const
-{
-   for (std::string const& line : _trial.trace) {
-      std::printf("   > %s\n", line.c_str());
+   struct Step {
+      char const* name;
+      bool (Diagnosis::*look)();
+   };
+   Step const steps[] = {
+         {"library", &Diagnosis::library},
+         {"home", &Diagnosis::home},
+         {"options", &Diagnosis::options},
+         {"VM", &Diagnosis::vm},
+         {"class path", &Diagnosis::classPath},
+         {"jar", &Diagnosis::jar},
+         {"classes", &Diagnosis::classes},
+         {"native methods", &Diagnosis::natives},
+         {"ambassador", &Diagnosis::ambassador},
+         {"first connect", &Diagnosis::firstConnect},
+   };
+   for (Step const& step : steps) {
+      _report.begin(step.name);
+      if (!(this->*step.look)()) {
+         _trial.waitForEnd(); // for what it still has to say
+         return false;
+      }
    }
+   return true;
 }
 
-void Diagnosis::tellOutput() const
+Report::Versions Diagnosis::versions() const
 {
-   std::istringstream lines(_trial.output);
-   std::string line;
-   while (std::getline(lines, line)) {
-      std::printf("   | %s\n", line.c_str());
-   }
+   std::wstring const library = rti1516e::rtiVersion();
+   return {std::string(library.begin(), library.end()), _trial.vmVersion(), _trial.jarVersion()};
 }
 
-bool Diagnosis::joined() const
+Report::Output Diagnosis::output() const
 {
-   return _trial.traced("Attempting to attach to existing JVM");
+   return {_trial.trace(), _trial.output()};
+}
+
+std::string Diagnosis::below(char const* path) const
+{
+   return _home.empty() ? path : resolved(_home) + "/" + path;
 }
 
 // ---- Library, home and options: looked at from outside
 
-bool Diagnosis::library() const
+bool Diagnosis::library()
 {
-   std::wstring const version = rti1516e::rtiVersion();
-   return found("library",
-         resolved(libraryFile()) + " (" + std::string(version.begin(), version.end()) + ", "
-               + ownMachine() + ")");
+   std::string const file = resolved(tarn1516e::libraryFile());
+   std::string const own = ownLibrary();
+   if (!own.empty() && own != file) {
+      _report.warn(file + " comes before " + own + ", which this program was installed with",
+            std::string("take its folder out of ") + tarn1516e::libraryPathVariable
+                  + " if federates are to use the latter.");
+   }
+   return _report.found(file + " (" + versions().library + ", " + ownMachine() + ")");
 }
 
-bool Diagnosis::home() const
+bool Diagnosis::home()
 {
    std::string const around = aroundLibrary();
-   std::string const variable = valueOf("TARN1516E_HOME");
-   if (exists(around + marker)) {
-      return found("home",
-            _home + " (the library lies in it"
-                  + (variable.empty() ? ")" : "; TARN1516E_HOME is not looked at)"));
+   std::string const variable = valueOf(tarn1516e::homeVariable);
+   std::string const marker = tarn1516e::markerBelowHome;
+   std::string const reason = whyJavaCannotRead(_home);
+   if (!reason.empty()) {
+      _report.warn(resolved(_home) + " " + reason,
+            "move the installation to a folder with a plain name, or name its jar in CLASSPATH by "
+            "a link that has one.");
+   }
+   if (exists(around + "/" + marker)) {
+      return _report.found(resolved(_home) + " (the library lies in it"
+            + (variable.empty() ? ")" : "; TARN1516E_HOME is not looked at)"));
    }
    if (!_home.empty()) {
-      return found("home", _home + " (TARN1516E_HOME)");
+      return _report.found(resolved(_home) + " (TARN1516E_HOME)");
    }
    if (!variable.empty()) {
-      return failed("home",
-            "TARN1516E_HOME is '" + variable + "', where there is no versioninfo.txt",
-            "set TARN1516E_HOME to the directory of an installation, which a file versioninfo.txt "
-            "marks as one.");
+      return _report.failed("TARN1516E_HOME is '" + variable + "', where there is no " + marker,
+            "set TARN1516E_HOME to the directory of an installation, which a file " + marker
+                  + " marks as one.");
    }
-   for (std::string const part : {"/jre", "/lib/tarn1516e.jar", "/include/RTI/RTI1516.h"}) {
-      if (exists(around + part)) {
-         return failed("home", around + " has " + part.substr(1) + ", but no versioninfo.txt",
-               "put the marker back: touch " + around + marker + ".");
+   for (std::string const part : {"jre", tarn1516e::jarBelowHome, "include/RTI/RTI1516.h"}) {
+      if (exists(around + "/" + part)) {
+         return _report.failed(around + " has " + part + ", but no " + marker,
+               "put the marker back: touch " + around + "/" + marker + ".");
       }
    }
-   return found("home", "none; VM and classes have to come from the library path and CLASSPATH");
+   return _report.found("none; VM and classes have to come from the library path and CLASSPATH");
 }
 
-bool Diagnosis::options() const
+bool Diagnosis::options()
 {
-   if (isUnreadable(optionFile)) {
-      return failed("options",
-            currentDirectory() + "/" + optionFile + " is there and can't be read",
+   if (isUnreadable(tarn1516e::optionFile)) {
+      return _report.failed(
+            resolved(".") + "/" + tarn1516e::optionFile + " is there and can't be read",
             "make it a file that this user may read, or take it away; the library passes over it "
             "without a word.");
    }
-   std::vector<Option> const options = optionsGiven();
-   std::string text;
-   for (Option const& option : options) {
-      text += (text.empty() ? "" : ", ") + option.text + " (" + option.source + ")";
+   warnOfOptions();
+   std::string list;
+   for (GivenOption const& option : _options) {
+      list += (list.empty() ? "" : ", ") + visible(option.text) + " (" + option.source + ")";
    }
-   return found("options", text.empty() ? "none given" : text);
+   return _report.found(list.empty() ? "none given" : list);
+}
+
+void Diagnosis::warnOfOptions()
+{
+   for (std::string const& variable : variablesLike(tarn1516e::optionVariable)) {
+      std::string const number = variable.substr(std::string(tarn1516e::optionVariable).size());
+      int const value = std::atoi(number.c_str());
+      if (std::to_string(value) != number || value < 1 || value > tarn1516e::optionVariables) {
+         _report.warn(variable + " is not read",
+               "take a number from 1 to " + std::to_string(tarn1516e::optionVariables) + ".");
+      }
+   }
+   for (GivenOption const& option : _options) {
+      if (option.source != tarn1516e::optionFile) {
+         continue;
+      }
+      bool const isBlank = std::isspace(static_cast<unsigned char>(option.text.front())) != 0;
+      if (isBlank || option.text.back() == '\r') {
+         _report.warn("'" + visible(option.text) + "' in " + option.source
+                     + (isBlank ? " begins with a blank" : " ends in a carriage return")
+                     + ", which the VM takes for a part of it",
+               "take it away: nothing in the file is trimmed, and lines end in a line feed alone.");
+      }
+   }
+   for (char const* const variable : {"JAVA_TOOL_OPTIONS", "_JAVA_OPTIONS"}) {
+      if (!valueOf(variable).empty()) {
+         _report.warn(
+               std::string(variable) + " is set, and the VM follows it too: " + valueOf(variable),
+               "unset it if it is not meant for federates.");
+      }
+   }
 }
 
 // ---- The VM
 
-bool Diagnosis::vm() const
+bool Diagnosis::vm()
 {
-   std::string const& text = _trial.text;
-   if (!_trial.hostFailure.empty()) {
-      return failed("VM", "the one to be joined did not start: " + _trial.hostFailure,
+   _trial.start();
+   _trial.waitForVm();
+   std::string const what = _trial.text();
+   if (!_trial.hostFailure().empty()) {
+      return _report.failed("the one to be joined did not start: " + _trial.hostFailure(),
             "see that the check passes without --host-vm first.");
    }
-   if (startsWith(text, "Failed to find JVM ")) {
+   if (isOf(what, text::noVm) || isOf(what, text::noVmInHome)) {
       return noVm();
    }
-   if (startsWith(text, "Failed to dlopen JVM")) {
-      return vmOfAnotherKind(_home + "/" + tarn1516e::vmBelowHome);
+   if (isOf(what, text::vmNotLoaded)) {
+      return vmOfAnotherKind(below(tarn1516e::vmBelowHome));
    }
-   if (startsWith(text, "Failed to find JNI_")) {
-      return failed("VM", (_trial.vm.empty() ? "the library found" : _trial.vm) + " is no Java VM",
+   if (isOf(what, text::noEntryPoint)) {
+      return _report.failed(vmFile() + " is no Java VM",
             std::string("put the ") + tarn1516e::vmLibraryName
                   + " of a Java runtime in its place.");
    }
-   if (startsWith(text, "Cannot create JVM.")) {
+   if (isOf(what, text::notCreated)) {
       return vmRefuses();
    }
-   if (!_trial.traced("Created new JVM") && !_trial.traced("Attached to existing JVM")) {
-      return _trial.traced("Attempting to create new JVM") ? vmRefuses() : ended("VM");
+   if (!_trial.traced(text::created) && !_trial.traced(text::attached)) {
+      return _trial.traced(text::creating) && !_trial.isLate() ? vmRefuses() : ended();
    }
-   std::string const file = resolved(_trial.vm);
+   warnOfVm();
+   std::string const file = vmFile();
    std::string const version = versionOfVm(file);
-   return found("VM",
-         (file.empty() ? "running" : file) + " ("
-               + (version.empty() ? "" : "Java " + version + ", ")
-               + (joined() ? "in the process before"
-                           : _trial.traced("JVM was available on library path")
-                           ? "on the library path"
-                           : "below the home")
-               + ")");
+   return _report.found((file.empty() ? "running" : file) + " ("
+         + (version.empty() ? "" : "Java " + version + ", ")
+         + (_trial.isJoined()                               ? "in the process before"
+                     : _trial.traced(text::vmOnLibraryPath) ? "on the library path"
+                                                            : "below the home")
+         + ")");
 }
 
-bool Diagnosis::noVm() const
+// As far as it can be known while the trial goes on, and otherwise at its end.
+std::string Diagnosis::vmFile()
 {
-   std::string const onPath = vmOnLibraryPath();
+   std::string file = _trial.tracedValue(beginningOf(text::vmOfHome));
+   if (file.empty()) {
+      file = onLibraryPath(tarn1516e::vmLibraryName);
+   }
+   if (file.empty() || machineOf(file) != ownMachine()) {
+      _trial.waitForEnd();
+      file = _trial.vm();
+   }
+   return resolved(file);
+}
+
+void Diagnosis::warnOfVm()
+{
+   if (isDanglingLink(below("jre"))) {
+      _report.warn(
+            below("jre") + " is a link to " + targetOf(below("jre")) + ", which is not there",
+            "link a Java runtime there (ln -sfn <runtime> " + below("jre") + ").");
+   }
+   std::vector<std::string> texts;
+   for (GivenOption const& option : _options) {
+      texts.push_back(option.text);
+   }
+   if (!_trial.isJoined()) {
+      for (std::size_t const number : unknownOptions(_request, _home, texts)) {
+         GivenOption const& option = _options[number];
+         _report.warn("the VM does not know the option '" + visible(option.text) + "' in "
+                     + option.source + ", and passes over it",
+               "correct it, or take it away.");
+      }
+   }
+}
+
+bool Diagnosis::noVm()
+{
+   std::string const name = tarn1516e::vmLibraryName;
+   std::string const onPath = onLibraryPath(name);
+   std::string const variable = tarn1516e::libraryPathVariable;
    if (!onPath.empty()) {
       return vmOfAnotherKind(onPath);
    }
-   std::string const name = tarn1516e::vmLibraryName;
    if (_home.empty()) {
-      return failed("VM", "no " + name + " on the library path, and no home to look in",
-            "put the folder of " + name + " on " + libraryPathVariable()
+      return _report.failed("no " + name + " on the library path, and no home to look in",
+            "put the folder of " + name + " on " + variable
                   + ", or set TARN1516E_HOME to an installation that has a jre.");
    }
-   std::string const jre = _home + "/jre";
-   return failed("VM",
-         "no " + name + " on the library path, and no " + _home + "/" + tarn1516e::vmBelowHome,
+   std::string const jre = below("jre");
+   return _report.failed("no " + name + " on the library path, and no "
+               + below(tarn1516e::vmBelowHome)
+               + (isDanglingLink(jre)
+                           ? "; " + jre + " is a link to " + targetOf(jre) + ", which is not there"
+                           : ""),
          "link a Java runtime there (ln -sfn <runtime> " + jre + "), or put the folder of " + name
-               + " on " + libraryPathVariable() + ".");
+               + " on " + variable + ".");
 }
 
-bool Diagnosis::vmOfAnotherKind(std::string const& file) const
+bool Diagnosis::vmOfAnotherKind(std::string const& file)
 {
    std::string const machine = machineOf(file);
    if (machine.empty()) {
-      return failed("VM", file + " is no library of this platform",
+      return _report.failed(file + " is no library of this platform",
             "put a whole Java runtime for " + ownMachine() + " in its place.");
    }
    if (machine != ownMachine()) {
-      return failed("VM", file + " is for " + machine + ", this process is " + ownMachine(),
+      return _report.failed(file + " is for " + machine + ", this process is " + ownMachine(),
             "use a Java runtime for " + ownMachine() + ".");
    }
-   return failed("VM", file + " does not load: " + firstLine(_trial.text),
+   return _report.failed(file + " does not load: " + firstLine(_trial.text()),
          "mend what the loader names, as a rule a library that is missing beside the VM.");
 }
 
 // The VM gives its reason in its own words, and ends the process or answers with a status.
-bool Diagnosis::vmRefuses() const
+bool Diagnosis::vmRefuses()
 {
-   std::string const option = culprit(_trial.output + _trial.text);
-   std::string const status = _trial.text.empty() ? "it ended the process" : firstLine(_trial.text);
-   if (!option.empty()) {
-      return failed("VM", "it does not start: " + status,
-            "mend or remove the VM option " + option + "; the VM's words are below.");
+   _trial.waitForEnd();
+   std::string const culprit = optionIn(_trial.output());
+   std::string const status =
+         _trial.text().empty() ? "it ended the process" : firstLine(_trial.text());
+   std::string const what = "it does not start: " + status;
+   if (!culprit.empty()) {
+      return _report.failed(
+            what, "mend or remove the VM option " + culprit + "; the VM's words are below.");
    }
-   if (!optionsGiven().empty()) {
-      return failed("VM", "it does not start: " + status,
-            "take the VM options away one by one; the VM's words are below.");
+   if (!_options.empty()) {
+      return _report.failed(what, "take the VM options away one by one; the VM's words are below.");
    }
-   return failed("VM", "it does not start: " + status,
+   return _report.failed(what,
          "see the VM's words below; without any option it is as a rule memory that is missing.");
+}
+
+// The option that the VM names in what it says, or nothing.
+std::string Diagnosis::optionIn(std::vector<std::string> const& lines) const
+{
+   for (GivenOption const& option : _options) {
+      for (std::string const& line : lines) {
+         if (!option.text.empty() && line.find(option.text) != std::string::npos) {
+            return "'" + option.text + "' in " + option.source;
+         }
+      }
+   }
+   return std::string();
 }
 
 // ---- Class path, jar and classes
 
-bool Diagnosis::classPath() const
+bool Diagnosis::classPath()
 {
-   if (joined()) {
-      return found("class path", "the one that the VM was started with");
+   if (_trial.isJoined()) {
+      return _report.found("the one that the VM was started with");
    }
-   std::vector<std::string> const elements = elementsOf(valueOf("CLASSPATH"));
    std::string missing;
-   std::size_t count = 0;
-   for (std::string const& element : elements) {
-      if (!exists(element)) {
+   for (std::string const& element : elementsOf(valueOf("CLASSPATH"))) {
+      if (!element.empty() && !exists(element)) {
          missing += (missing.empty() ? "" : ", ") + element;
-         ++count;
       }
    }
-   if (count > 0 && count == elements.size()) {
-      return failed("class path", "CLASSPATH leads nowhere: " + missing,
+   if (!missing.empty()) {
+      _report.warn("CLASSPATH leads nowhere: " + missing,
             "correct CLASSPATH or unset it; only the java command itself replaces a '*' in it.");
    }
-   std::string const option = _trial.tracedValue("Setting classpath to");
-   std::string const path = option.substr(std::min(option.size(), option.find('=') + 1));
-   return found("class path",
-         (path.empty() ? "empty" : path)
-               + (missing.empty() ? "" : " (does not exist: " + missing + ")"));
+   std::string const path = tarn1516e::classPath(_home);
+   std::vector<std::string> const elements = elementsOf(path);
+   bool const isHere = std::count(elements.begin(), elements.end(), "") != 0;
+   return _report.found((path.empty() ? "empty" : path)
+         + (isHere ? " (what is empty is the current directory)" : ""));
 }
 
-// Where the library looks for the jar, whether it is there or not.
-std::string Diagnosis::ownJar() const
+// The elements as Java takes them.
+std::vector<std::string> Diagnosis::classPathElements() const
 {
-   return _home.empty() ? "lib/tarn1516e.jar" : _home + "/lib/tarn1516e.jar";
+   std::vector<std::string> elements = elementsOf(tarn1516e::classPath(_home));
+   std::replace(elements.begin(), elements.end(), std::string(), std::string("."));
+   return elements;
 }
 
-// The element of the class path that the core class comes from; empty if none has it.
-std::string Diagnosis::jarWithCore() const
+// The element of the class path that the class comes from; empty if none has it.
+std::string Diagnosis::elementWith(std::string const& className) const
 {
-   std::vector<std::string> elements = elementsOf(valueOf("CLASSPATH"));
-   elements.push_back(ownJar());
-   for (std::string const& element : elements) {
-      if (holdsClass(element, coreClass)) {
+   for (std::string const& element : classPathElements()) {
+      if (holdsClass(element, className)) {
          return element;
       }
    }
    return std::string();
 }
 
-bool Diagnosis::jar() const
+bool Diagnosis::jar()
 {
-   if (joined()) {
-      return found("jar", "left to the VM's own class path");
+   if (_trial.isJoined()) {
+      return _report.found("left to the VM's own class path");
    }
-   std::string const element = jarWithCore();
-   if (!element.empty()) {
-      return found("jar", resolved(element));
+   _trial.waitForCore();
+   std::string const element = elementWith(tarn1516e::coreClass);
+   bool const isLocated = !_trial.traced(text::coreNotLocated);
+   std::string const reason = whyJavaCannotRead(_home);
+   if (!isLocated && !reason.empty()) {
+      return _report.failed(
+            "Java does not find " + below(tarn1516e::jarBelowHome) + ": the home's path " + reason,
+            "move the installation to a folder with a plain name.");
    }
-   if (!_trial.traced("Failed to locate core classes")) {
-      return found("jar", "none; the classes come by way of a VM option");
+   if (element.empty()) {
+      return isLocated ? _report.found("none; the classes come by way of a VM option") : noJar();
    }
-   return noJar();
+   warnOfJars();
+   return _report.found(resolved(element)
+         + (holdsPackage(element, standInPackage) ? " (the stand-in for trials, not an RTI)" : ""));
 }
 
-bool Diagnosis::noJar() const
+void Diagnosis::warnOfJars()
 {
-   std::vector<std::string> candidates = elementsOf(valueOf("CLASSPATH"));
-   candidates.push_back(ownJar());
-   for (std::string const& jar : candidates) {
-      if (exists(jar) && jar.substr(jar.rfind('/') + 1) == "tarn1516e.jar") {
-         return failed("jar",
-               jar + (readArchive(jar).isArchive ? " has no " + dotted(coreClass) : " is no jar"),
-               "put the RTI's own tarn1516e.jar in its place.");
+   std::string const own = below(tarn1516e::jarBelowHome);
+   for (std::string const& element : classPathElements()) {
+      if (!isDirectory(element) && isUnreadable(element)) {
+         _report.warn(element + " can't be read", "let this user read it (chmod a+r).");
       }
    }
-   return failed("jar", "no tarn1516e.jar at " + ownJar() + " and none on CLASSPATH",
-         "copy the RTI's tarn1516e.jar to " + ownJar() + ", or name it in CLASSPATH.");
+   for (std::string const name :
+         {tarn1516e::coreClass, tarn1516e::adapterClass, tarn1516e::nativesClass}) {
+      std::string const element = elementWith(name);
+      if (holdsClass(own, name) && resolved(element) != resolved(own)) {
+         _report.warn(resolved(element) + " has " + dotted(name) + ", and hides the one of " + own,
+               "take it off the class path, which begins with CLASSPATH, and with the current "
+               "directory if that is not set.");
+         return;
+      }
+   }
 }
 
-bool Diagnosis::classes() const
+bool Diagnosis::noJar()
 {
-   if (_trial.traced("Failed to locate core classes")) {
-      return classNotLoaded("classes", coreClass);
+   std::vector<std::string> candidates = classPathElements();
+   candidates.push_back(below(tarn1516e::jarBelowHome));
+   for (std::string const& element : candidates) {
+      std::string const jar = resolved(element);
+      if (!exists(jar) || isDirectory(jar) || jar.substr(jar.rfind('/') + 1) != "tarn1516e.jar") {
+         continue;
+      }
+      if (isUnreadable(jar)) {
+         return _report.failed(jar + " can't be read", "let this user read it (chmod a+r).");
+      }
+      return _report.failed(jar
+                  + (readArchive(jar).isArchive ? " has no " + dotted(tarn1516e::coreClass)
+                                                : " is no jar"),
+            "put the RTI's own tarn1516e.jar in its place.");
    }
-   if (_trial.traced("Failed to locate adapter classes")) {
-      return classNotLoaded("classes", adapterClass);
-   }
-   std::string const method = _trial.outputLine("Cannot locate ");
-   if (!method.empty() && !_trial.created) {
-      return otherVersion("classes", firstLine(method));
-   }
-   if (!_trial.traced("Locating adapter classes")) {
-      return ended("classes");
-   }
-   return found("classes", dotted(coreClass) + ", " + dotted(adapterClass));
+   std::string const jar = below(tarn1516e::jarBelowHome);
+   return _report.failed("no tarn1516e.jar at " + jar + " and none on CLASSPATH",
+         "copy the RTI's tarn1516e.jar to " + jar + ", or name it in CLASSPATH.");
 }
 
-bool Diagnosis::classNotLoaded(std::string const& step, std::string const& className) const
+bool Diagnosis::classes()
+{
+   _trial.waitForAmbassador();
+   if (_trial.traced(text::coreNotLocated)) {
+      return classNotLoaded(tarn1516e::coreClass);
+   }
+   if (_trial.traced(text::adapterNotLocated)) {
+      return classNotLoaded(tarn1516e::adapterClass);
+   }
+   std::string const method = _trial.outputLine(beginningOf(text::noMethod));
+   if (!method.empty() && !_trial.isCreated() && _trial.exception().empty()) {
+      return otherVersion(method);
+   }
+   if (!_trial.traced(text::locatingAdapter) || _trial.isLate()) {
+      return ended();
+   }
+   return _report.found(dotted(tarn1516e::coreClass) + ", " + dotted(tarn1516e::adapterClass));
+}
+
+bool Diagnosis::classNotLoaded(std::string const& className)
 {
    std::string const tooNew = _trial.outputLine("UnsupportedClassVersionError");
    if (!tooNew.empty()) {
@@ -368,12 +490,12 @@ bool Diagnosis::classNotLoaded(std::string const& step, std::string const& class
       int const version = number == std::string::npos
             ? 0
             : std::atoi(tooNew.c_str() + number + before.size()) - 44;
-      return failed(step, "the VM is too old for the jar's " + dotted(className),
+      return _report.failed("the VM is too old for the jar's " + dotted(className),
             "use a Java runtime of version " + (version > 0 ? std::to_string(version) : "the jar's")
                   + " or later.");
    }
-   if (joined() && className == coreClass) {
-      return failed(step, "the VM that was in the process before has no " + dotted(className),
+   if (_trial.isJoined() && className == tarn1516e::coreClass) {
+      return _report.failed("the VM that was in the process before has no " + dotted(className),
             "put tarn1516e.jar on the class path with which the program starts its VM; CLASSPATH "
             "and VM options given to the library do not reach a VM that is there already.");
    }
@@ -381,66 +503,72 @@ bool Diagnosis::classNotLoaded(std::string const& step, std::string const& class
    std::string const line = _trial.outputLine(before);
    std::string const missing =
          line.empty() ? className : line.substr(line.find(before) + before.size());
-   return failed(step, dotted(missing) + " is missing",
+   return _report.failed(dotted(missing) + " is missing",
          "replace tarn1516e.jar by a complete one, and name in CLASSPATH what it depends on.");
 }
 
-bool Diagnosis::otherVersion(std::string const& step, std::string const& what) const
+bool Diagnosis::otherVersion(std::string const& what)
 {
-   return failed(step, what,
+   return _report.failed(what,
          "use the tarn1516e.jar that belongs to this version of the library; the one found is "
          "another version's.");
 }
 
 // ---- Natives, the Java object, and the first connection
 
-bool Diagnosis::natives() const
+bool Diagnosis::natives()
 {
-   if (!_trial.outputLine("The file tarn1516e.jar can not be found").empty()) {
-      return classNotLoaded("native methods", nativeClass);
+   if (!_trial.outputLine(firstLine(text::noNativesClass)).empty()) {
+      return classNotLoaded(tarn1516e::nativesClass);
    }
-   std::string const refused = _trial.outputLine("Failed to register native functions.");
+   std::string const refused = _trial.outputLine(firstLine(text::nativesRefused));
    if (!refused.empty()) {
-      return otherVersion("native methods", refused);
+      return otherVersion(refused);
    }
-   if (!_trial.created && _trial.exception.empty()) {
-      return ended("native methods");
+   if (!_trial.isCreated() && _trial.exception().empty()) {
+      return ended();
    }
-   return found("native methods", "bound to " + dotted(nativeClass));
+   return _report.found("bound to " + dotted(tarn1516e::nativesClass));
 }
 
-bool Diagnosis::ambassador() const
+bool Diagnosis::ambassador()
 {
-   if (_trial.created) {
-      return found("ambassador", "created");
+   if (_trial.isCreated()) {
+      return _report.found("created");
    }
-   if (startsWith(_trial.text, "Cannot locate constructor")) {
-      return otherVersion("ambassador", firstLine(_trial.text));
+   if (isOf(_trial.text(), text::noConstructor)) {
+      return otherVersion(firstLine(_trial.text()));
    }
-   return failed("ambassador", "the Java constructor threw: " + firstLine(_trial.text),
+   return _report.failed("the Java constructor threw: " + firstLine(_trial.text()),
          "look into the RTI's own settings and start-up; the Java stack is below.");
 }
 
-bool Diagnosis::firstConnect() const
+bool Diagnosis::firstConnect()
 {
-   if (_trial.connected) {
-      return found("first connect", "connected and disconnected");
+   _trial.waitForEnd();
+   if (!_trial.exception().empty()) {
+      return _report.failed(_trial.exception() + ": " + firstLine(_trial.text()),
+            "see that the RTI runs and that the local settings name it (--settings).");
    }
-   if (_trial.exception.empty()) {
-      return ended("first connect");
+   if (!_trial.isConnected() || _trial.isLate()) {
+      return ended();
    }
-   return failed("first connect", _trial.exception + ": " + firstLine(_trial.text),
-         "see that the RTI runs and that the local settings name it (--settings).");
+   return _report.found("connected and disconnected");
 }
 
 // For what none of the others explains.
-bool Diagnosis::ended(std::string const& step) const
+bool Diagnosis::ended()
 {
-   std::string const what = _trial.signal != 0
-         ? "the process was ended by signal " + std::to_string(_trial.signal)
-         : !_trial.text.empty() ? firstLine(_trial.text)
-                                : "the process exited with " + std::to_string(_trial.status);
-   return failed(step, what, "see below what was written until then.");
+   _trial.waitForEnd();
+   if (_trial.isLate()) {
+      return _report.failed("no answer within " + std::to_string(_request.limit.count()) + " s",
+            "see by the threads' stacks below what it waits for; --timeout gives it more time.");
+   }
+   std::string const what = _trial.signal() != 0
+         ? "the process was ended by signal " + std::to_string(_trial.signal())
+         : !_trial.text().empty() ? firstLine(_trial.text())
+                                  : "the process exited with " + std::to_string(_trial.status());
+   return _report.failed(what, "see below what was written until then.");
 }
 
 } // namespace check

@@ -1,53 +1,63 @@
-// Goes through start-up step by step, tells what was found, and stops where it fails.
+// Goes through start-up step by step, reports what was found, and stops where it fails.
 #ifndef tarn1516e_check_Diagnosis_h
 #define tarn1516e_check_Diagnosis_h
 
+#include "jvm/Installation.h"
+#include "tools/tarn1516e-check/Report.h"
 #include "tools/tarn1516e-check/Trial.h"
 
 #include <string>
+#include <vector>
 
 namespace check {
 
 class Diagnosis {
 public:
-   // Makes the trial.
-   explicit Diagnosis(Request request);
+   Diagnosis(Request const& request, Report& report);
 
-   // Writes a line for each step to the standard output stream, and at the first one that fails
-   // what to do about it. True if none does.
-   bool tell() const;
+   // Whether a federate starts.
+   bool run();
 
-   // What was written while starting, behind a bar; the library's own trace behind a '>'.
-   void tellOutput() const;
-   void tellTrace() const;
+   Report::Versions versions() const;
+   Report::Output output() const;
 
 private:
    // The steps, each true if the next one may follow.
-   bool library() const;
-   bool home() const;
-   bool options() const;
-   bool vm() const;
-   bool classPath() const;
-   bool jar() const;
-   bool classes() const;
-   bool natives() const;
-   bool ambassador() const;
-   bool firstConnect() const;
+   bool library();
+   bool home();
+   bool options();
+   bool vm();
+   bool classPath();
+   bool jar();
+   bool classes();
+   bool natives();
+   bool ambassador();
+   bool firstConnect();
 
    // Their failures.
-   bool noVm() const;
-   bool vmOfAnotherKind(std::string const& file) const;
-   bool vmRefuses() const;
-   bool noJar() const;
-   bool classNotLoaded(std::string const& step, std::string const& className) const;
-   bool otherVersion(std::string const& step, std::string const& what) const;
-   bool ended(std::string const& step) const;
+   bool noVm();
+   bool vmOfAnotherKind(std::string const& file);
+   bool vmRefuses();
+   bool noJar();
+   bool classNotLoaded(std::string const& className);
+   bool otherVersion(std::string const& what);
+   bool ended();
 
-   bool joined() const;
-   std::string ownJar() const;
-   std::string jarWithCore() const;
+   // What is between right and wrong.
+   void warnOfOptions();
+   void warnOfVm();
+   void warnOfJars();
 
-   std::string _home; // without a '/' at its end; empty if there is none
+   std::string vmFile();
+   std::string below(char const* path) const; // of the home, as it is shown
+   std::string optionIn(std::vector<std::string> const& lines) const;
+   std::vector<std::string> classPathElements() const;
+   std::string elementWith(std::string const& className) const;
+
+   Request _request;
+   Report& _report;
+   std::string _home; // with a '/' at its end; empty if there is none
+   std::vector<tarn1516e::GivenOption> _options;
    Trial _trial;
 };
 

@@ -1,17 +1,21 @@
+// Files, variables, libraries and classes, looked at from outside.
 #include "tools/tarn1516e-check/Surroundings.h"
 
+#include "jvm/Installation.h"
 #include "jvm/Platform.h"
 #include "tools/tarn1516e-check/Archive.h"
 
+#include <algorithm>
 #include <cstdlib>
-#include <cstring>
-#include <dlfcn.h>
 #include <fstream>
+#include <langinfo.h>
 #include <map>
-#include <sstream>
 #include <sys/stat.h>
+#include <unistd.h>
 
-extern "C" void tarn1516e_exported_symbol_for_dlsym();
+#if defined(__APPLE__)
+#include <mach-o/dyld.h>
+#endif
 
 namespace check {
 
@@ -27,6 +31,19 @@ bool isDirectory(std::string const& path)
 {
    struct stat status;
    return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+bool isDanglingLink(std::string const& path)
+{
+   struct stat status;
+   return lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode) && !exists(path);
+}
+
+std::string targetOf(std::string const& link)
+{
+   char target[4096];
+   ssize_t const size = readlink(link.c_str(), target, sizeof target);
+   return std::string(target, size > 0 ? static_cast<std::size_t>(size) : 0);
 }
 
 std::string directoryOf(std::string const& path)
@@ -52,12 +69,21 @@ bool isUnreadable(std::string const& path)
    return isDirectory(path) || !std::ifstream(path).is_open();
 }
 
-// ---- The environment
-
-bool isSet(char const* variable)
+// Java splits a class path at each colon, and knows no bytes beyond ASCII where the locale has
+// none.
+std::string whyJavaCannotRead(std::string const& path)
 {
-   return std::getenv(variable) != nullptr;
+   if (path.find(':') != std::string::npos) {
+      return "holds a colon, at which Java splits its class path";
+   }
+   std::string const encoding = nl_langinfo(CODESET);
+   bool const isAscii = encoding == "ANSI_X3.4-1968" || encoding == "US-ASCII";
+   bool const isBeyond = std::any_of(path.begin(), path.end(),
+         [](char byte) { return static_cast<unsigned char>(byte) >= 0x80; });
+   return isAscii && isBeyond ? "holds letters that Java can't read in this locale" : "";
 }
+
+// ---- The environment
 
 std::string valueOf(char const* variable)
 {
@@ -68,53 +94,52 @@ std::string valueOf(char const* variable)
 std::vector<std::string> elementsOf(std::string const& path)
 {
    std::vector<std::string> elements;
-   std::istringstream stream(path);
-   std::string element;
-   while (std::getline(stream, element, ':')) {
-      if (!element.empty()) {
-         elements.push_back(element);
-      }
+   std::string::size_type begin = 0, colon;
+   while ((colon = path.find(':', begin)) != std::string::npos) {
+      elements.push_back(path.substr(begin, colon - begin));
+      begin = colon + 1;
    }
+   elements.push_back(path.substr(begin));
    return elements;
 }
 
-char const* libraryPathVariable()
+std::vector<std::string> variablesLike(std::string const& beginning)
 {
-#if defined(__APPLE__)
-   return "DYLD_LIBRARY_PATH";
-#else
-   return "LD_LIBRARY_PATH";
-#endif
+   std::vector<std::string> names;
+   for (char** setting = environ; *setting != nullptr; ++setting) {
+      std::string const text = *setting;
+      if (text.compare(0, beginning.size(), beginning) == 0) {
+         names.push_back(text.substr(0, text.find('=')));
+      }
+   }
+   return names;
 }
 
-char const* const optionFile = "tarn.vmoptions";
-
-std::vector<Option> optionsGiven()
+std::string visible(std::string const& text)
 {
-   std::vector<Option> options;
-   for (int i = 1; i <= 19; ++i) {
-      std::string const variable = "TARN1516_OPTION" + std::to_string(i);
-      if (isSet(variable.c_str())) {
-         options.push_back({valueOf(variable.c_str()), variable});
-      }
+   std::map<char, std::string> const escapes = {{'\r', "\\r"}, {'\t', "\\t"}, {'\f', "\\f"}};
+   std::string shown;
+   for (char const character : text) {
+      auto const escape = escapes.find(character);
+      shown += escape != escapes.end() ? escape->second : std::string(1, character);
    }
-   std::ifstream file(optionFile);
-   std::string line;
-   while (std::getline(file, line)) {
-      if (!line.empty() && line[0] != '#') {
-         options.push_back({line, optionFile});
-      }
-   }
-   return options;
+   return shown;
 }
 
 // ---- Libraries
 
-std::string libraryFile()
+// OWN_LIBRARY is where it lies, seen from this program's folder.
+std::string ownLibrary()
 {
-   Dl_info library;
-   void* const address = reinterpret_cast<void*>(&tarn1516e_exported_symbol_for_dlsym);
-   return dladdr(address, &library) != 0 ? library.dli_fname : "";
+#if defined(__APPLE__)
+   char program[4096];
+   uint32_t size = sizeof program;
+   std::string const path = _NSGetExecutablePath(program, &size) == 0 ? program : "";
+#else
+   std::string const path = resolved("/proc/self/exe");
+#endif
+   std::string const library = directoryOf(path) + "/" OWN_LIBRARY;
+   return exists(library) ? resolved(library) : std::string();
 }
 
 namespace {
@@ -197,14 +222,15 @@ std::string ownMachine()
 #elif defined(__aarch64__)
    return "arm64";
 #else
-   return machineOf(libraryFile());
+   return machineOf(tarn1516e::libraryFile());
 #endif
 }
 
-std::string vmOnLibraryPath()
+std::string onLibraryPath(std::string const& name)
 {
-   for (std::string const& folder : elementsOf(valueOf(libraryPathVariable()))) {
-      std::string file = folder + "/" + tarn1516e::vmLibraryName;
+   std::string const path = valueOf(tarn1516e::libraryPathVariable);
+   for (std::string const& folder : path.empty() ? std::vector<std::string>() : elementsOf(path)) {
+      std::string file = (folder.empty() ? "." : folder) + "/" + name;
       if (exists(file)) {
          return file;
       }
@@ -235,6 +261,16 @@ bool holdsClass(std::string const& element, std::string const& className)
       return exists(element + "/" + file);
    }
    return readArchive(element).names.count(file) != 0;
+}
+
+bool holdsPackage(std::string const& element, std::string const& package)
+{
+   if (isDirectory(element)) {
+      return isDirectory(element + "/" + package);
+   }
+   std::set<std::string> const names = readArchive(element).names;
+   auto const first = names.lower_bound(package + "/");
+   return first != names.end() && first->compare(0, package.size() + 1, package + "/") == 0;
 }
 
 } // namespace check

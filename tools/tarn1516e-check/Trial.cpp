@@ -1,6 +1,8 @@
 #include "tools/tarn1516e-check/Trial.h"
 
-#include "tools/tarn1516e-check/HostVm.h"
+#include "jvm/StartTexts.h"
+#include "tools/tarn1516e-check/Json.h"
+#include "tools/tarn1516e-check/VmStart.h"
 #include <RTI/NullFederateAmbassador.h>
 #include <RTI/RTI1516.h>
 
@@ -9,44 +11,49 @@
 #include <dlfcn.h>
 #include <memory>
 #include <sstream>
-#include <stdexcept>
-#include <sys/resource.h>
-#include <sys/wait.h>
 #include <typeinfo>
-#include <unistd.h>
 
 namespace check {
 
 namespace {
 
-std::string const tracePrefix = "TARN1516E_TRACE_LOAD: ";
+namespace text = tarn1516e::text;
 
-// ---- In the child. It writes records "name=value" to a pipe, each with a zero behind it
+// ---- In the child
 
-class Report {
-public:
-   explicit Report(int pipe) : _pipe(pipe) {}
-
-   // A value is cut so that all records together fit into the pipe.
-   void tell(std::string const& name, std::string const& value) const
-   {
-      std::string const record = name + "=" + value.substr(0, 4096);
-      if (write(_pipe, record.c_str(), record.size() + 1) < 0) {
-         _exit(1);
-      }
+void appendUtf8(std::string& bytes, unsigned long character)
+{
+   static unsigned const marks[] = {0, 0, 0xc0, 0xe0, 0xf0}; // of the first byte, by their number
+   std::size_t const count = character < 0x80 ? 1
+         : character < 0x800                  ? 2
+         : character < 0x10000                ? 3
+                                              : 4;
+   std::string character8;
+   for (std::size_t i = 1; i < count; ++i) {
+      character8.insert(0, 1, static_cast<char>(0x80 | (character & 0x3f)));
+      character >>= 6;
    }
+   bytes += static_cast<char>(marks[count] | character);
+   bytes += character8;
+}
 
-private:
-   int _pipe;
-};
-
+// The library widens the environment's values byte by byte, Java's texts come character by
+// character. What reads as UTF-8 when it is narrowed again was the former.
 std::string narrowed(std::wstring const& wide)
 {
-   std::string narrow;
+   std::string bytes, encoded;
+   bool isBytes = true;
    for (wchar_t const character : wide) {
-      narrow += character < 0x80 ? static_cast<char>(character) : '?';
+      isBytes = isBytes && static_cast<unsigned long>(character) < 0x100;
+      bytes += static_cast<char>(character);
+      appendUtf8(encoded, static_cast<unsigned long>(character));
    }
-   return narrow;
+   for (std::size_t place = 0; isBytes && place < bytes.size();) {
+      std::size_t const length = characterAt(bytes, place);
+      isBytes = length != 0;
+      place += length;
+   }
+   return isBytes ? bytes : encoded;
 }
 
 std::string className(std::type_info const& type)
@@ -59,21 +66,25 @@ std::string className(std::type_info const& type)
    return colon == std::string::npos ? text : text.substr(colon + 1);
 }
 
-void tellVm(Report const& report)
+void tellVm(Child::Tell const& tell)
 {
    Dl_info library;
    void* const entry = dlsym(RTLD_DEFAULT, "JNI_CreateJavaVM");
    if (entry != nullptr && dladdr(entry, &library) != 0) {
-      report.tell("vm", library.dli_fname);
+      tell("vm", library.dli_fname);
+      tell("vmVersion", versionOfRunningVm());
+      tell("jarVersion", versionOfCoreJar());
    }
 }
 
-void startAsFederate(Request const& request, Report const& report)
+void startAsFederate(Request const& request, std::string const& home, Child::Tell const& tell)
 {
+   setenv(text::traceVariable, "", 1);
    if (request.hostVm) {
-      std::string const failure = startHostVm(request.home, request.hostClassPath);
+      std::string const failure =
+            startVm(home, {"-Djava.class.path=" + request.hostClassPath}, true);
       if (!failure.empty()) {
-         report.tell("hostFailure", failure);
+         tell("hostFailure", failure);
          return;
       }
    }
@@ -81,105 +92,157 @@ void startAsFederate(Request const& request, Report const& report)
       rti1516e::NullFederateAmbassador callbacks;
       rti1516e::RTIambassadorFactory factory;
       std::unique_ptr<rti1516e::RTIambassador> const rti(factory.createRTIambassador().release());
-      report.tell("created", "");
+      tell("created", "");
       rti->connect(callbacks, rti1516e::HLA_EVOKED, request.settings);
-      report.tell("connected", "");
+      tell("connected", "");
       rti->disconnect();
    } catch (rti1516e::Exception const& e) {
-      report.tell("exception", className(typeid(e)));
-      report.tell("text", narrowed(e.what()));
+      tell("text", narrowed(e.what()));
+      tell("exception", className(typeid(e)));
    }
-   tellVm(report);
-}
-
-[[noreturn]] void runChild(Request const& request, int reportPipe, int outputPipe)
-{
-   dup2(outputPipe, STDOUT_FILENO);
-   dup2(outputPipe, STDERR_FILENO);
-   close(outputPipe);
-   rlimit const noCore = {0, 0}; // an end by a signal is an answer here
-   setrlimit(RLIMIT_CORE, &noCore);
-   setenv("TARN1516E_TRACE_LOAD", "", 1);
-   startAsFederate(request, Report(reportPipe));
-   _exit(0);
+   tellVm(tell);
 }
 
 // ---- In the parent
 
-struct Pipe {
-   int ends[2]; // to read from, to write to
-
-   Pipe()
-   {
-      if (pipe(ends) != 0) {
-         throw std::runtime_error("no pipe for the trial's process");
-      }
-   }
-};
-
-std::string readAll(int pipe)
+std::vector<std::string> linesOf(std::string const& text)
 {
-   std::string text;
-   char buffer[4096];
-   ssize_t count;
-   while ((count = read(pipe, buffer, sizeof buffer)) > 0) {
-      text.append(buffer, static_cast<std::size_t>(count));
-   }
-   close(pipe);
-   return text;
-}
-
-void takeOutput(Trial& trial, std::string const& output)
-{
-   std::istringstream lines(output);
+   std::istringstream stream(text);
+   std::vector<std::string> lines;
    std::string line;
-   while (std::getline(lines, line)) {
-      std::string::size_type const prefix = line.find(tracePrefix);
-      if (prefix != std::string::npos) {
-         trial.trace.push_back(line.substr(prefix + tracePrefix.size()));
-      } else if (!line.empty()) {
-         trial.output += line + "\n";
-      }
+   while (std::getline(stream, line)) {
+      lines.push_back(line);
    }
-}
-
-void takeReport(Trial& trial, std::string const& report)
-{
-   std::istringstream records(report);
-   std::string record;
-   while (std::getline(records, record, '\0')) {
-      std::string::size_type const equals = record.find('=');
-      std::string const name = record.substr(0, equals);
-      std::string const value = record.substr(equals + 1);
-      trial.created = trial.created || name == "created";
-      trial.connected = trial.connected || name == "connected";
-      if (name == "vm") {
-         trial.vm = value;
-      } else if (name == "hostFailure") {
-         trial.hostFailure = value;
-      } else if (name == "exception") {
-         trial.exception = value;
-      } else if (name == "text") {
-         trial.text = value;
-      }
-   }
+   return lines;
 }
 
 } // namespace
 
-bool Trial::traced(std::string const& line) const
+Trial::Trial(Request const& request, std::string const& home)
+      : _request(request),
+        _home(home),
+        _child(request.limit)
 {
-   for (std::string const& one : trace) {
-      if (one == line) {
-         return true;
+}
+
+void Trial::start()
+{
+   _child.start([this](Child::Tell const& tell) { startAsFederate(_request, _home, tell); });
+}
+
+void Trial::waitForVm()
+{
+   _child.waitUntil([this] { return traced(text::created) || traced(text::attached); });
+}
+
+void Trial::waitForCore()
+{
+   _child.waitUntil(
+         [this] { return traced(text::locatingAdapter) || traced(text::coreNotLocated); });
+}
+
+void Trial::waitForAmbassador()
+{
+   _child.waitUntil([this] { return isCreated() || !exception().empty(); });
+}
+
+void Trial::waitForEnd()
+{
+   _child.waitForEnd();
+}
+
+bool Trial::isCreated() const
+{
+   return _child.told("created");
+}
+
+bool Trial::isConnected() const
+{
+   return _child.told("connected");
+}
+
+bool Trial::isLate() const
+{
+   return _child.isLate();
+}
+
+bool Trial::isJoined() const
+{
+   return traced(text::attaching);
+}
+
+std::string Trial::hostFailure() const
+{
+   return _child.valueOf("hostFailure");
+}
+
+std::string Trial::vm() const
+{
+   return _child.valueOf("vm");
+}
+
+std::string Trial::exception() const
+{
+   return _child.valueOf("exception");
+}
+
+std::string Trial::text() const
+{
+   return _child.valueOf("text");
+}
+
+std::string Trial::vmVersion() const
+{
+   return _child.valueOf("vmVersion");
+}
+
+std::string Trial::jarVersion() const
+{
+   return _child.valueOf("jarVersion");
+}
+
+int Trial::signal() const
+{
+   return _child.signal();
+}
+
+int Trial::status() const
+{
+   return _child.status();
+}
+
+std::vector<std::string> Trial::trace() const
+{
+   std::string const prefix = text::tracePrefix;
+   std::vector<std::string> lines;
+   for (std::string const& line : linesOf(_child.output())) {
+      std::string::size_type const place = line.find(prefix);
+      if (place != std::string::npos) {
+         lines.push_back(line.substr(place + prefix.size()));
       }
    }
-   return false;
+   return lines;
+}
+
+std::vector<std::string> Trial::output() const
+{
+   std::vector<std::string> lines;
+   for (std::string const& line : linesOf(_child.output())) {
+      if (!line.empty() && line.find(text::tracePrefix) == std::string::npos) {
+         lines.push_back(line);
+      }
+   }
+   return lines;
+}
+
+bool Trial::traced(std::string const& line) const
+{
+   return _child.output().find(text::tracePrefix + line + "\n") != std::string::npos;
 }
 
 std::string Trial::tracedValue(std::string const& beginning) const
 {
-   for (std::string const& line : trace) {
+   for (std::string const& line : trace()) {
       if (line.compare(0, beginning.size(), beginning) == 0) {
          std::string::size_type const first = line.find('\'') + 1;
          return line.substr(first, line.rfind('\'') - first);
@@ -190,9 +253,7 @@ std::string Trial::tracedValue(std::string const& beginning) const
 
 std::string Trial::outputLine(std::string const& part) const
 {
-   std::istringstream lines(output);
-   std::string line;
-   while (std::getline(lines, line)) {
+   for (std::string const& line : output()) {
       if (line.find(part) != std::string::npos) {
          std::string::size_type const first = line.find_first_not_of(" \t");
          return line.substr(first, line.find_last_not_of(" \t") + 1 - first);
@@ -201,29 +262,31 @@ std::string Trial::outputLine(std::string const& part) const
    return std::string();
 }
 
-Trial tryToStart(Request const& request)
+// One after the other, since some options are only known behind another one that unlocks them.
+std::vector<std::size_t> unknownOptions(
+      Request const& request, std::string const& home, std::vector<std::string> const& options)
 {
-   Pipe report, output;
-   pid_t const child = fork();
-   if (child < 0) {
-      throw std::runtime_error("no process for the trial");
+   // What else keeps the VM from starting a second time, a port that is taken, is no fault of
+   // names.
+   auto const areKnown = [&](std::vector<std::string> const& some) {
+      Child child(request.limit);
+      child.start([&](Child::Tell const&) { startVm(home, some, false); });
+      child.waitForEnd();
+      return child.output().find("Unrecognized ") == std::string::npos;
+   };
+   std::vector<std::size_t> unknown;
+   if (areKnown(options)) {
+      return unknown;
    }
-   if (child == 0) {
-      close(report.ends[0]);
-      close(output.ends[0]);
-      runChild(request, report.ends[1], output.ends[1]);
+   std::vector<std::string> known;
+   for (std::size_t i = 0; i < options.size(); ++i) {
+      known.push_back(options[i]);
+      if (!areKnown(known)) {
+         known.pop_back();
+         unknown.push_back(i);
+      }
    }
-   close(report.ends[1]);
-   close(output.ends[1]);
-
-   Trial trial;
-   takeOutput(trial, readAll(output.ends[0]));
-   takeReport(trial, readAll(report.ends[0]));
-   int status = 0;
-   waitpid(child, &status, 0);
-   trial.signal = WIFSIGNALED(status) ? WTERMSIG(status) : 0;
-   trial.status = WIFEXITED(status) ? WEXITSTATUS(status) : 0;
-   return trial;
+   return unknown;
 }
 
 } // namespace check

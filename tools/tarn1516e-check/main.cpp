@@ -2,7 +2,9 @@
 #include "tools/tarn1516e-check/Diagnosis.h"
 #include <RTI/RTI1516.h>
 
+#include <clocale>
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
 #include <getopt.h>
 
@@ -22,16 +24,45 @@ char const usage[] = //
       "      --host-vm CLASSPATH   have a Java VM with this class path in the process before, as "
       "a\n"
       "                            program written in Java has, and join it\n"
+      "  -t, --timeout SECONDS     end a start-up that takes longer; 60 if it is not given\n"
+      "  -j, --json                print one JSON text instead of lines\n"
       "  -v, --verbose             also print all that start-up wrote, its trace included\n"
       "  -h, --help                print this and exit\n"
       "      --version             print the library's version and exit\n"
       "\n"
-      "Exit status: 0 if all is well, 1 if a step fails, 2 if the options are wrong.\n";
+      "Exit status: 0 if a federate starts, also with warnings; 1 if a step fails, 2 if the "
+      "options\n"
+      "are wrong.\n";
 
 struct Arguments {
    check::Request request;
-   bool verbose = false;
+   bool isJson = false;
+   bool isVerbose = false;
 };
+
+int wrongUsage(std::string const& what)
+{
+   std::fprintf(stderr, "%sTry tarn1516e-check --help.\n", what.c_str());
+   return badUsage;
+}
+
+// The text by the locale. False if it is none.
+bool widen(std::string const& bytes, std::wstring& wide)
+{
+   wide.resize(bytes.size());
+   std::size_t const size = std::mbstowcs(&wide[0], bytes.c_str(), wide.size());
+   wide.resize(size != static_cast<std::size_t>(-1) ? size : 0);
+   return size != static_cast<std::size_t>(-1);
+}
+
+bool readLimit(std::string const& text, std::chrono::seconds& limit)
+{
+   int const most = 24 * 60 * 60;
+   char* end = nullptr;
+   long const seconds = std::strtol(text.c_str(), &end, 10);
+   limit = std::chrono::seconds(seconds);
+   return !text.empty() && *end == '\0' && seconds > 0 && seconds <= most;
+}
 
 // The exit status to leave with at once, or -1.
 int parse(int argc, char** argv, Arguments& arguments)
@@ -43,24 +74,37 @@ int parse(int argc, char** argv, Arguments& arguments)
    option const longOptions[] = {
          {"settings", required_argument, nullptr, 's'},
          {"host-vm", required_argument, nullptr, hostVm},
+         {"timeout", required_argument, nullptr, 't'},
+         {"json", no_argument, nullptr, 'j'},
          {"verbose", no_argument, nullptr, 'v'},
          {"help", no_argument, nullptr, 'h'},
          {"version", no_argument, nullptr, version},
          {nullptr, 0, nullptr, 0},
    };
+   check::Request& request = arguments.request;
    int letter;
-   while ((letter = getopt_long(argc, argv, "s:vh", longOptions, nullptr)) != -1) {
+   while ((letter = getopt_long(argc, argv, "s:t:jvh", longOptions, nullptr)) != -1) {
       std::string const value = optarg != nullptr ? optarg : "";
       switch (letter) {
       case 's':
-         arguments.request.settings.assign(value.begin(), value.end());
+         if (!widen(value, request.settings)) {
+            return wrongUsage("The settings are no text in this locale (LC_ALL). ");
+         }
          break;
       case hostVm:
-         arguments.request.hostVm = true;
-         arguments.request.hostClassPath = value;
+         request.hostVm = true;
+         request.hostClassPath = value;
+         break;
+      case 't':
+         if (!readLimit(value, request.limit)) {
+            return wrongUsage("The timeout is a number of seconds, 1 to 86400. ");
+         }
+         break;
+      case 'j':
+         arguments.isJson = true;
          break;
       case 'v':
-         arguments.verbose = true;
+         arguments.isVerbose = true;
          break;
       case 'h':
          std::fputs(usage, stdout);
@@ -69,40 +113,29 @@ int parse(int argc, char** argv, Arguments& arguments)
          std::printf("tarn1516e-check %ls\n", rti1516e::rtiVersion().c_str());
          return allIsWell;
       default:
-         std::fputs("Try tarn1516e-check --help.\n", stderr);
-         return badUsage;
+         return wrongUsage("");
       }
    }
-   if (optind < argc) {
-      std::fprintf(
-            stderr, "%s: what is '%s'? Try tarn1516e-check --help.\n", argv[0], argv[optind]);
-      return badUsage;
-   }
-   return -1;
+   return optind == argc ? -1
+                         : wrongUsage(argv[0] + std::string(": what is '") + argv[optind] + "'? ");
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
+   std::setlocale(LC_CTYPE, ""); // of which the settings are a text; the library asks no locale
    Arguments arguments;
    int const status = parse(argc, argv, arguments);
    if (status >= 0) {
       return status;
    }
    try {
-      check::Diagnosis const diagnosis(arguments.request);
-      bool const well = diagnosis.tell();
-      if (well) {
-         std::puts("All is well: a federate starts here.");
-      }
-      if (arguments.verbose) {
-         diagnosis.tellTrace();
-      }
-      if (!well || arguments.verbose) {
-         diagnosis.tellOutput();
-      }
-      return well ? allIsWell : doesNotStart;
+      check::Report report(arguments.isJson);
+      check::Diagnosis diagnosis(arguments.request, report);
+      bool const starts = diagnosis.run();
+      report.end(diagnosis.versions(), diagnosis.output(), arguments.isVerbose);
+      return starts ? allIsWell : doesNotStart;
    } catch (std::exception const& e) {
       std::fprintf(stderr, "%s: %s\n", argv[0], e.what());
       return doesNotStart;
