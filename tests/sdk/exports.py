@@ -1,5 +1,8 @@
-"""Compares the dynamic symbols of both libraries with the lists beside this file."""
+"""Compares the dynamic symbols of both libraries with the lists beside this file, and sees that what
+the VM calls stays in the process."""
 
+import _ctypes
+import ctypes
 import sys
 from pathlib import Path
 
@@ -26,6 +29,12 @@ def meant_to_be_exported(to):
     return names
 
 
+def stays_when_closed(library):
+    """As for a plugin that loads it and is closed."""
+    _ctypes.dlclose(ctypes.CDLL(library)._handle)
+    return str(library.resolve()) in Path("/proc/self/maps").read_text()
+
+
 def main():
     to = sdk.settings()
     differences = sdk.Differences()
@@ -41,6 +50,8 @@ def main():
         foreign = {line for line in names if line.startswith(("_ZNSt", "_ZNKSt", "_ZTISt", "_ZSt"))
                    or "Java_skerry" in line}
         differences.same_lines(f"{name}, of others", set(), foreign)
+    library = to.build / "home/lib" / to.toolchain / "librti1516e.so"
+    differences.check("the library goes when it is closed", stays_when_closed(library))
     differences.finish()
 
 
