@@ -205,6 +205,10 @@ STARTS = [
           "create set TARN1516E_HOME={scratch}/other create",
           thrown(NO_VM + "(unknown)") + CHECKED + NO_OPTIONS + ATTACHED + thrown(NO_CORE),
           NO_VM + "(unknown)" + NO_CORE),
+    # The loader has read the variable when the process began.
+    start("a path that is set too late", ON_PATH, {}, "create set {search}={scratch}/path create",
+          thrown(NO_VM + "(unknown)") + thrown(NO_VM + "{scratch}/path"),
+          NO_VM + "(unknown)" + NO_VM + "{scratch}/path"),
     start("a directory with an option file", {**FAKE, "there/tarn.vmoptions": "-Da\n"},
           {"VM_CREATE": "-6", "VM_LACKS": "Factory"},
           "create go {scratch}/there set VM_CREATE=0 create",
@@ -344,9 +348,9 @@ def not_found(name):
             + "\nCaused by: java.lang.ClassNotFoundException: skerry.tarn1516e." + name + "\n")
 
 
-def not_loaded(name, which, class_path, times=1):
+def not_loaded(name, which, class_path):
     text = lacking(which, class_path=class_path)
-    return {"out": times * thrown(text), "err": times * (not_found(name) + text)}
+    return {"out": thrown(text), "err": not_found(name) + text}
 
 
 def joining(name, steps, out, err="", lay=(), env=()):
@@ -376,8 +380,10 @@ JAVAS = [
           {**OTHER, "other/jre": "-> {jdk}", "other/lib/tarn1516e.jar": "-> {jar}"},
           variables(*WATCHED), "create set TARN1516E_HOME={scratch}/other create",
           thrown(NO_VM + "(unknown)") + "created\n", NO_VM + "(unknown)"),
-    start("an option that the VM refuses", JAVA, variables(*WATCHED, "-Xmxfoo"), "create",
-          thrown(REFUSED), "Invalid maximum heap size: -Xmxfoo\n" + REFUSED),
+    # The VM then starts with the next call, but has lost the class path.
+    start("an option that the VM refuses", JAVA, variables("-Xmxfoo", *WATCHED),
+          "create unset TARN1516_OPTION1 create", thrown(REFUSED) + thrown(NO_CORE),
+          "Invalid maximum heap size: -Xmxfoo\n" + REFUSED + not_found("RtiFactoryImpl") + NO_CORE),
     start("traced to its end", JAVA, {**variables(*WATCHED), **ON}, "create create",
           "created\ncreated\n",
           FOUND + using("{home}") + vms() + trace(
@@ -385,8 +391,11 @@ JAVAS = [
               "Setting classpath to '-Djava.class.path=:{home}lib/tarn1516e.jar'",
               "Attempting to create new JVM", "Created new JVM",
               *2 * ("Locating core classes", "Locating adapter classes"))),
-    start("no jar", JRE, variables(*WATCHED), "create create",
-          **not_loaded("RtiFactoryImpl", "core", "(unknown)", 2)),
+    start("no jar, and one that is named too late", JRE, variables(*WATCHED),
+          "create set CLASSPATH={jar} create",
+          "".join(thrown(lacking("core", class_path=path)) for path in ("(unknown)", "{jar}")),
+          "".join(not_found("RtiFactoryImpl") + lacking("core", class_path=path)
+                  for path in ("(unknown)", "{jar}"))),
     start("no core class, but the adapter's", JRE,
           {**variables(*WATCHED), "CLASSPATH": "{classes}/unfit:b"}, "create",
           **not_loaded("RtiFactoryImpl", "core", "{classes}/unfit:b")),
