@@ -57,6 +57,13 @@ void padTo(DataElement const& element, std::vector<Octet>& buffer)
    }
 }
 
+VariableLengthData encodeBlock(DataElement const& element)
+{
+   VariableLengthData data;
+   element.encode(data);
+   return data;
+}
+
 void encodeBlock(DataElement const& element, VariableLengthData& inData)
 {
    std::size_t const length = element.getEncodedLength();

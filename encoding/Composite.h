@@ -44,35 +44,42 @@ void padTo(unsigned long boundary, std::vector<Octet>& buffer);
 // composites take long to tell.
 void padTo(DataElement const& element, std::vector<Octet>& buffer);
 
-// The element's encodeInto() and decodeFrom() on a whole block.
+// The element's encodeInto() and decodeFrom() on a whole block. A block of its own is encoded by
+// the element's encode() with a block to replace.
+VariableLengthData encodeBlock(DataElement const& element);
 void encodeBlock(DataElement const& element, VariableLengthData& inData);
 void decodeBlock(DataElement& element, VariableLengthData const& inData);
 
 } // namespace rti1516e
 
+// clang-format off
+
 // Defines the members of the element X that go through its copy constructor, encodeInto() and
 // decodeFrom().
 #define RTI_DEFINE_COMPOSITE_MEMBERS(X)                                                            \
-   std::auto_ptr<DataElement> X::clone() const                                                     \
-   {                                                                                               \
-      return std::auto_ptr<DataElement>(new X(*this));                                             \
-   }                                                                                               \
-                                                                                                   \
-   VariableLengthData X::encode() const RTI_THROW((EncoderException))                              \
-   {                                                                                               \
-      VariableLengthData data;                                                                     \
-      encode(data);                                                                                \
-      return data;                                                                                 \
-   }                                                                                               \
-                                                                                                   \
+   std::auto_ptr<DataElement> X::clone() const { return std::auto_ptr<DataElement>(new X(*this)); }\
+   VariableLengthData X::encode() const RTI_THROW((EncoderException)) { return encodeBlock(*this); }\
    void X::encode(VariableLengthData& inData) const RTI_THROW((EncoderException))                  \
-   {                                                                                               \
-      encodeBlock(*this, inData);                                                                  \
-   }                                                                                               \
-                                                                                                   \
+   { encodeBlock(*this, inData); }                                                                 \
    void X::decode(VariableLengthData const& inData) RTI_THROW((EncoderException))                  \
+   { decodeBlock(*this, inData); }
+
+// Defines how the element X is copied and destroyed with its implementation.
+#define RTI_DEFINE_COPYING(X)                                                                      \
+   X::X(X const& rhs)                                                                              \
+      : DataElement(rhs), _implementation(new X##Implementation(*rhs._implementation)) {}          \
+   X::~X() { delete _implementation; }
+
+// Defines its assignment. The copy is made first: an element may be assigned to itself.
+#define RTI_DEFINE_ASSIGNMENT(X)                                                                   \
+   X& X::operator=(X const& rhs)                                                                   \
    {                                                                                               \
-      decodeBlock(*this, inData);                                                                  \
+      X##Implementation* const old = _implementation;                                              \
+      _implementation = new X##Implementation(*rhs._implementation);                               \
+      delete old;                                                                                  \
+      return *this;                                                                                \
    }
+
+// clang-format on
 
 #endif

@@ -67,4 +67,35 @@ private:
 
 } // namespace rti1516e
 
+// Defines the members of the element X that are those of its sequence, without a count in front.
+// clang-format off
+#define RTI_DEFINE_SEQUENCE_MEMBERS(X)                                                             \
+   void X::encodeInto(std::vector<Octet>& buffer) const RTI_THROW((EncoderException))              \
+   {                                                                                               \
+      padTo(*this, buffer);                                                                        \
+      _implementation->encodeInto(buffer);                                                         \
+   }                                                                                               \
+   std::size_t X::decodeFrom(std::vector<Octet> const& buffer, std::size_t index)                  \
+      RTI_THROW((EncoderException))                                                                \
+   { return _implementation->decodeFrom(buffer, index); }                                          \
+   std::size_t X::getEncodedLength() const RTI_THROW((EncoderException))                           \
+   { return _implementation->encodedLength(0); }                                                   \
+   unsigned int X::getOctetBoundary() const { return _implementation->boundary(1); }
+
+// Defines how the elements of the array X are replaced. The index is looked at first.
+#define RTI_DEFINE_ARRAY_SETTERS(X)                                                                \
+   void X::set(std::size_t index, DataElement const& inData) RTI_THROW((EncoderException))         \
+   {                                                                                               \
+      checkIndex(index, size());                                                                   \
+      checkPrototype(hasPrototypeSameTypeAs(inData));                                              \
+      _implementation->replace(index, cloneOf(inData));                                            \
+   }                                                                                               \
+   void X::setElementPointer(std::size_t index, DataElement* inData) RTI_THROW((EncoderException)) \
+   {                                                                                               \
+      checkIndex(index, size());                                                                   \
+      checkPrototype(hasPrototypeSameTypeAs(*inData));                                             \
+      _implementation->replace(index, callersOwn(inData));                                         \
+   }
+// clang-format on
+
 #endif

@@ -11,13 +11,6 @@ namespace {
 
 unsigned long const COUNT_BYTES = 4;
 
-// Both strings: the size of n characters and their count. Computed without a sign: a string of more
-// than 2^31 bytes has a negative size, which no allocator grants.
-int sizeofString(unsigned long characters, unsigned long bytesEach)
-{
-   return static_cast<int>(static_cast<unsigned int>(COUNT_BYTES + characters * bytesEach));
-}
-
 // The number of characters, tested against all of the data, the count itself included.
 unsigned long decodeCount(void const* buffer, unsigned long length)
 {
@@ -28,20 +21,20 @@ unsigned long decodeCount(void const* buffer, unsigned long length)
    return static_cast<unsigned long>(count);
 }
 
-// Padding and the count, before characters that take the rest of size bytes.
-void appendCount(
-      std::vector<char>& buffer, unsigned long boundary, unsigned long characters, int size)
+// What one character takes.
+unsigned long bytesEach(std::string const&)
 {
-   if (size < 0) {
-      throw std::length_error("string too long to encode");
-   }
-   insertBytes(buffer, paddingSizeInBytes(buffer.size(), boundary));
-   appendInt(buffer, static_cast<int>(characters));
+   return 1;
 }
 
-char* charactersIn(void const* buffer)
+unsigned long bytesEach(std::wstring const&)
 {
-   return static_cast<char*>(const_cast<void*>(buffer)) + COUNT_BYTES;
+   return 2;
+}
+
+void encodeCharacters(char const* characters, unsigned long count, char* out)
+{
+   std::copy(characters, characters + count, out);
 }
 
 void encodeCharacters(wchar_t const* characters, unsigned long count, char* out)
@@ -51,90 +44,16 @@ void encodeCharacters(wchar_t const* characters, unsigned long count, char* out)
    }
 }
 
-} // namespace
-
-unsigned int boundaryofHLAASCIIstring()
+// Characters from as many bytes as there are; the value has its length afterwards.
+void decodeCharacters(char const* in, unsigned long bytes, unsigned long count, std::string& value)
 {
-   return 4;
-}
-
-int sizeofHLAASCIIstring(std::string const& value)
-{
-   return sizeofString(value.size(), 1);
-}
-
-char* encodeHLAASCIIstring(std::string const& value, int& length)
-{
-   length = sizeofHLAASCIIstring(value);
-   char* const buffer = new char[static_cast<std::size_t>(length)];
-   encodeHLAASCIIstring(value, buffer);
-   return buffer;
-}
-
-void encodeHLAASCIIstring(std::string const& value, void const* buffer)
-{
-   encodeHLAinteger32BE(static_cast<int>(value.size()), buffer);
-   std::copy(value.begin(), value.end(), charactersIn(buffer));
-}
-
-std::string decodeHLAASCIIstring(void const* buffer, unsigned long length)
-{
-   std::string value;
-   decodeHLAASCIIstring(buffer, length, value);
-   return value;
-}
-
-void decodeHLAASCIIstring(void const* buffer, unsigned long length, std::string& value)
-{
-   unsigned long const count = decodeCount(buffer, length);
-   value.assign(charactersIn(buffer), std::min(count, length - COUNT_BYTES));
+   value.assign(in, std::min(count, bytes));
    value.resize(count);
 }
 
-void appendHLAASCIIstring(
-      std::vector<char>& buffer, unsigned long boundary, std::string const& value)
+void decodeCharacters(char const* in, unsigned long bytes, unsigned long count, std::wstring& value)
 {
-   appendCount(buffer, boundary, value.size(), sizeofHLAASCIIstring(value));
-   appendBytes(buffer, value.data(), value.size());
-}
-
-unsigned int boundaryofHLAunicodeString()
-{
-   return 4;
-}
-
-int sizeofHLAunicodeString(std::wstring const& value)
-{
-   return sizeofString(value.size(), 2);
-}
-
-char* encodeHLAunicodeString(std::wstring const& value, int& length)
-{
-   length = sizeofHLAunicodeString(value);
-   char* const buffer = new char[static_cast<std::size_t>(length)];
-   encodeHLAunicodeString(value, buffer);
-   return buffer;
-}
-
-void encodeHLAunicodeString(std::wstring const& value, void const* buffer)
-{
-   encodeHLAinteger32BE(static_cast<int>(value.size()), buffer);
-   encodeCharacters(value.data(), value.size(), charactersIn(buffer));
-}
-
-std::wstring decodeHLAunicodeString(void const* buffer, unsigned long length)
-{
-   std::wstring value;
-   decodeHLAunicodeString(buffer, length, value);
-   return value;
-}
-
-void decodeHLAunicodeString(void const* buffer, unsigned long length, std::wstring& value)
-{
-   unsigned long const count = decodeCount(buffer, length);
-   unsigned long const bytes = length - COUNT_BYTES;
    unsigned long const whole = std::min(count, bytes / 2);
-   char const* const in = charactersIn(buffer);
    value.resize(whole);
    wchar_t* const out = &value[0];
    for (unsigned long i = 0; i < whole; ++i) {
@@ -148,11 +67,14 @@ void decodeHLAunicodeString(void const* buffer, unsigned long length, std::wstri
    }
 }
 
-// Piece by piece, so that a long string's bytes are written once, and not first as zeros.
-void appendHLAunicodeString(
-      std::vector<char>& buffer, unsigned long boundary, std::wstring const& value)
+void appendCharacters(std::vector<char>& buffer, std::string const& value)
 {
-   appendCount(buffer, boundary, value.size(), sizeofHLAunicodeString(value));
+   appendBytes(buffer, value.data(), value.size());
+}
+
+// Piece by piece, so that a long string's bytes are written once, and not first as zeros.
+void appendCharacters(std::vector<char>& buffer, std::wstring const& value)
+{
    unsigned long const atMost = 512;
    char piece[2 * atMost];
    for (unsigned long first = 0; first < value.size(); first += atMost) {
@@ -161,6 +83,48 @@ void appendHLAunicodeString(
       appendBytes(buffer, piece, 2 * count);
    }
 }
+
+} // namespace
+
+int sizeAsInt(unsigned long size)
+{
+   return static_cast<int>(static_cast<unsigned int>(size));
+}
+
+template <class Text>
+int StringCoding<Text>::size(Text const& value)
+{
+   return sizeAsInt(COUNT_BYTES + value.size() * bytesEach(value));
+}
+
+template <class Text>
+void StringCoding<Text>::encode(Text const& value, void* buffer)
+{
+   encodeHLAinteger32BE(static_cast<int>(value.size()), buffer);
+   encodeCharacters(value.data(), value.size(), static_cast<char*>(buffer) + COUNT_BYTES);
+}
+
+template <class Text>
+void StringCoding<Text>::decode(void const* buffer, unsigned long length, Text& value)
+{
+   unsigned long const count = decodeCount(buffer, length);
+   char const* const in = static_cast<char const*>(buffer) + COUNT_BYTES;
+   decodeCharacters(in, length - COUNT_BYTES, count, value);
+}
+
+template <class Text>
+void StringCoding<Text>::append(std::vector<char>& buffer, unsigned long at, Text const& value)
+{
+   if (size(value) < 0) {
+      throw std::length_error("string too long to encode");
+   }
+   insertBytes(buffer, paddingSizeInBytes(buffer.size(), at));
+   appendInt(buffer, static_cast<int>(value.size()));
+   appendCharacters(buffer, value);
+}
+
+template class StringCoding<std::string>;
+template class StringCoding<std::wstring>;
 
 void appendBytes(std::vector<char>& buffer, char const* bytes, unsigned long count)
 {
@@ -171,7 +135,7 @@ void appendBytes(std::vector<char>& buffer, char const* bytes, unsigned long cou
 
 void appendInt(std::vector<char>& buffer, int value)
 {
-   appendHLAinteger32BE(buffer, 1, value);
+   HLAinteger32BECoding::append(buffer, 1, value);
 }
 
 int decodeInt(std::vector<char> const& buffer, unsigned long index)

@@ -58,24 +58,6 @@ void appendInt(std::vector<char>& buffer, int value);
 // Reads four bytes, most significant first. The caller guarantees that they are there.
 int decodeInt(std::vector<char> const& buffer, unsigned long index);
 
-// Each scalar X has five functions, written out here for HLAinteger32BE:
-//
-//   unsigned int boundaryofHLAinteger32BE();        4
-//   int sizeofHLAinteger32BE(int const& value);     4
-//   char* encodeHLAinteger32BE(int value, int& length);
-//      A new array of char that the caller frees by delete[]; length is set to its size.
-//   void encodeHLAinteger32BE(int value, void const* buffer);
-//      Writes to buffer, const notwithstanding. The caller guarantees the room.
-//   int decodeHLAinteger32BE(void const* buffer, unsigned long length);
-//      Reads at buffer. The caller guarantees the bytes; length is not looked at.
-//
-// Two more spare the elements a copy or a buffer in between:
-//
-//   void decodeHLAinteger32BE(void const* buffer, unsigned long length, int& value);
-//      Decodes into value.
-//   void appendHLAinteger32BE(std::vector<char>& buffer, unsigned long boundary, int value);
-//      Adds padding to the boundary and the encoded value.
-
 // The integer whose bytes a value travels as, and the value back from it.
 
 inline std::uint8_t bitsOf(char value)
@@ -229,97 +211,141 @@ private:
 typedef ByteOrder<true> BigEndian;
 typedef ByteOrder<false> LittleEndian;
 
-// The functions that need a scalar's value and order only.
-template <class Order, class Value>
-void encodeScalar(Value const& value, void const* buffer)
+// The bytes of one type of value: how many, at which boundary, and both ways. A coding serves the
+// element of its type, and the functions below that bear the type's name.
+
+template <class Type, class Order>
+class ScalarCoding {
+public:
+   typedef Type Value;
+   static constexpr unsigned int boundary = sizeof(bitsOf(Value())); // and number of bytes
+
+   static int size(Value const&)
+   {
+      return boundary;
+   }
+
+   // The caller guarantees the room.
+   static void encode(Value const& value, void* buffer)
+   {
+      Order::store(bitsOf(value), static_cast<char*>(buffer));
+   }
+
+   // The caller guarantees the bytes.
+   static void decode(void const* buffer, unsigned long, Value& value)
+   {
+      decltype(bitsOf(Value())) bits;
+      Order::load(static_cast<char const*>(buffer), bits);
+      setFromBits(bits, value);
+   }
+
+   // Adds padding to the boundary given and the encoded value.
+   static void append(std::vector<char>& buffer, unsigned long at, Value const& value)
+   {
+      insertBytes(buffer, paddingSizeInBytes(buffer.size(), at) + boundary);
+      encode(value, &buffer[buffer.size() - boundary]);
+   }
+};
+
+// A number of bytes as an int: exact below 2^31 and negative from there on.
+int sizeAsInt(unsigned long size);
+
+// Text is std::string or std::wstring: a count of characters, 4 bytes, most significant first; then
+// the characters, one byte each or two (the low 16 bits, most significant byte first). Nothing is
+// transcoded.
+template <class Text>
+class StringCoding {
+public:
+   typedef Text Value;
+   static constexpr unsigned int boundary = 4;
+
+   // Negative if the encoded form has 2^31 bytes or more: no allocator grants that.
+   static int size(Text const& value);
+
+   // The caller guarantees the room.
+   static void encode(Text const& value, void* buffer);
+
+   // Needs 4 bytes at least. Compares the count with the length of all the data and throws
+   // EncoderException "Array index out of bounds" if it is greater, or negative; the value is
+   // unchanged then. A smaller count may still reach behind the data: the string has the length
+   // that the count says, and what lies outside the data is read as zero.
+   static void decode(void const* buffer, unsigned long length, Text& value);
+
+   // Adds padding to the boundary given and the encoded value. A string whose size is negative is a
+   // std::length_error.
+   static void append(std::vector<char>& buffer, unsigned long at, Text const& value);
+};
+
+#define ENCODER_SCALAR_CODING(Name, Value, Order, Bytes)                                           \
+   typedef ScalarCoding<Value, Order> Name##Coding;                                                \
+   static_assert(Name##Coding::boundary == Bytes, "bytes of " #Name);
+
+ENCODER_FOR_EACH_SCALAR(ENCODER_SCALAR_CODING)
+
+#undef ENCODER_SCALAR_CODING
+
+typedef StringCoding<std::string> HLAASCIIstringCoding;
+typedef StringCoding<std::wstring> HLAunicodeStringCoding;
+
+// A new array of char that the caller frees by delete[]; length is set to its size. A negative size
+// asks for more than there is: std::bad_alloc.
+template <class Coding>
+char* encodeNew(typename Coding::Value const& value, int& length)
 {
-   Order::store(bitsOf(value), static_cast<char*>(const_cast<void*>(buffer)));
+   length = Coding::size(value);
+   char* const buffer = new char[static_cast<std::size_t>(length)];
+   Coding::encode(value, buffer);
+   return buffer;
 }
 
-template <class Order, class Value>
-Value decodeScalar(void const* buffer)
+template <class Coding>
+typename Coding::Value decodeValue(void const* buffer, unsigned long length)
 {
-   decltype(bitsOf(Value())) bits;
-   Order::load(static_cast<char const*>(buffer), bits);
-   Value value;
-   setFromBits(bits, value);
+   typename Coding::Value value;
+   Coding::decode(buffer, length, value);
    return value;
 }
 
-#define ENCODER_SCALAR(Name, Value, Order, Bytes)                                                  \
-   static_assert(sizeof(bitsOf(Value())) == Bytes, "bytes of " #Name);                             \
-                                                                                                   \
+// Each type has five functions, by its name. For HLAinteger32BE they are
+//
+//   unsigned int boundaryofHLAinteger32BE();
+//   int sizeofHLAinteger32BE(int const& value);
+//   char* encodeHLAinteger32BE(int const& value, int& length);               see encodeNew
+//   void encodeHLAinteger32BE(int const& value, void const* buffer);         const notwithstanding
+//   int decodeHLAinteger32BE(void const* buffer, unsigned long length);
+#define ENCODER_FUNCTIONS(Name)                                                                    \
    inline unsigned int boundaryof##Name()                                                          \
    {                                                                                               \
-      return Bytes;                                                                                \
+      return Name##Coding::boundary;                                                               \
    }                                                                                               \
                                                                                                    \
-   inline int sizeof##Name(Value const&)                                                           \
+   inline int sizeof##Name(Name##Coding::Value const& value)                                       \
    {                                                                                               \
-      return Bytes;                                                                                \
+      return Name##Coding::size(value);                                                            \
    }                                                                                               \
                                                                                                    \
-   inline void encode##Name(Value value, void const* buffer)                                       \
+   inline char* encode##Name(Name##Coding::Value const& value, int& length)                        \
    {                                                                                               \
-      encodeScalar<Order>(value, buffer);                                                          \
+      return encodeNew<Name##Coding>(value, length);                                               \
    }                                                                                               \
                                                                                                    \
-   inline char* encode##Name(Value value, int& length)                                             \
+   inline void encode##Name(Name##Coding::Value const& value, void const* buffer)                  \
    {                                                                                               \
-      length = Bytes;                                                                              \
-      char* const buffer = new char[Bytes];                                                        \
-      encodeScalar<Order>(value, buffer);                                                          \
-      return buffer;                                                                               \
+      Name##Coding::encode(value, const_cast<void*>(buffer));                                      \
    }                                                                                               \
                                                                                                    \
-   inline Value decode##Name(void const* buffer, unsigned long)                                    \
+   inline Name##Coding::Value decode##Name(void const* buffer, unsigned long length)               \
    {                                                                                               \
-      return decodeScalar<Order, Value>(buffer);                                                   \
-   }                                                                                               \
-                                                                                                   \
-   inline void decode##Name(void const* buffer, unsigned long, Value& value)                       \
-   {                                                                                               \
-      value = decodeScalar<Order, Value>(buffer);                                                  \
-   }                                                                                               \
-                                                                                                   \
-   inline void append##Name(std::vector<char>& buffer, unsigned long boundary, Value value)        \
-   {                                                                                               \
-      insertBytes(buffer, paddingSizeInBytes(buffer.size(), boundary) + Bytes);                    \
-      encodeScalar<Order>(value, &buffer[buffer.size() - Bytes]);                                  \
+      return decodeValue<Name##Coding>(buffer, length);                                            \
    }
+#define ENCODER_SCALAR_FUNCTIONS(Name, Value, Order, Bytes) ENCODER_FUNCTIONS(Name)
 
-ENCODER_FOR_EACH_SCALAR(ENCODER_SCALAR)
+ENCODER_FOR_EACH_SCALAR(ENCODER_SCALAR_FUNCTIONS)
+ENCODER_FUNCTIONS(HLAASCIIstring)
+ENCODER_FUNCTIONS(HLAunicodeString)
 
-#undef ENCODER_SCALAR
-
-// The two strings: a count of characters, 4 bytes, most significant first; then the characters, one
-// byte each or two (the low 16 bits, most significant byte first). Nothing is transcoded.
-//
-// The decoders need 4 bytes at least. They compare the count with the length of all the data and
-// throw EncoderException "Array index out of bounds" if it is greater, or negative; the value that
-// they decode into is unchanged then. A smaller count may still reach behind the data: the string
-// has the length that the count says, and what lies outside the data is read as zero.
-//
-// A string whose encoded form has 2^31 bytes or more has a negative size, and no room is found for
-// it: std::bad_alloc or std::length_error.
-
-unsigned int boundaryofHLAASCIIstring();
-int sizeofHLAASCIIstring(std::string const& value);
-char* encodeHLAASCIIstring(std::string const& value, int& length);
-void encodeHLAASCIIstring(std::string const& value, void const* buffer);
-std::string decodeHLAASCIIstring(void const* buffer, unsigned long length);
-void decodeHLAASCIIstring(void const* buffer, unsigned long length, std::string& value);
-void appendHLAASCIIstring(
-      std::vector<char>& buffer, unsigned long boundary, std::string const& value);
-
-unsigned int boundaryofHLAunicodeString();
-int sizeofHLAunicodeString(std::wstring const& value);
-char* encodeHLAunicodeString(std::wstring const& value, int& length);
-void encodeHLAunicodeString(std::wstring const& value, void const* buffer);
-std::wstring decodeHLAunicodeString(void const* buffer, unsigned long length);
-void decodeHLAunicodeString(void const* buffer, unsigned long length, std::wstring& value);
-void appendHLAunicodeString(
-      std::vector<char>& buffer, unsigned long boundary, std::wstring const& value);
+#undef ENCODER_SCALAR_FUNCTIONS
+#undef ENCODER_FUNCTIONS
 
 } // namespace Encoder
 

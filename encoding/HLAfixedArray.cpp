@@ -24,48 +24,10 @@ HLAfixedArray::HLAfixedArray(DataElement const& prototype, std::size_t length)
 {
 }
 
-HLAfixedArray::HLAfixedArray(HLAfixedArray const& rhs)
-      : DataElement(rhs),
-        _implementation(new HLAfixedArrayImplementation(*rhs._implementation))
-{
-}
-
-HLAfixedArray::~HLAfixedArray()
-{
-   delete _implementation;
-}
-
-HLAfixedArray& HLAfixedArray::operator=(HLAfixedArray const& rhs)
-{
-   HLAfixedArrayImplementation* const old = _implementation;
-   _implementation = new HLAfixedArrayImplementation(*rhs._implementation);
-   delete old;
-   return *this;
-}
-
+RTI_DEFINE_COPYING(HLAfixedArray)
+RTI_DEFINE_ASSIGNMENT(HLAfixedArray)
 RTI_DEFINE_COMPOSITE_MEMBERS(HLAfixedArray)
-
-void HLAfixedArray::encodeInto(std::vector<Octet>& buffer) const RTI_THROW((EncoderException))
-{
-   padTo(*this, buffer);
-   _implementation->encodeInto(buffer);
-}
-
-std::size_t HLAfixedArray::decodeFrom(std::vector<Octet> const& buffer, std::size_t index)
-      RTI_THROW((EncoderException))
-{
-   return _implementation->decodeFrom(buffer, index);
-}
-
-std::size_t HLAfixedArray::getEncodedLength() const RTI_THROW((EncoderException))
-{
-   return _implementation->encodedLength(0);
-}
-
-unsigned int HLAfixedArray::getOctetBoundary() const
-{
-   return _implementation->boundary(1);
-}
+RTI_DEFINE_SEQUENCE_MEMBERS(HLAfixedArray)
 
 bool HLAfixedArray::isSameTypeAs(DataElement const& inData) const
 {
@@ -82,20 +44,7 @@ std::size_t HLAfixedArray::size() const
    return _implementation->size();
 }
 
-void HLAfixedArray::set(std::size_t index, DataElement const& inData) RTI_THROW((EncoderException))
-{
-   checkIndex(index, size());
-   checkPrototype(hasPrototypeSameTypeAs(inData));
-   _implementation->replace(index, cloneOf(inData));
-}
-
-void HLAfixedArray::setElementPointer(std::size_t index, DataElement* inData)
-      RTI_THROW((EncoderException))
-{
-   checkIndex(index, size());
-   checkPrototype(hasPrototypeSameTypeAs(*inData));
-   _implementation->replace(index, callersOwn(inData));
-}
+RTI_DEFINE_ARRAY_SETTERS(HLAfixedArray)
 
 DataElement const& HLAfixedArray::get(std::size_t index) const RTI_THROW((EncoderException))
 {

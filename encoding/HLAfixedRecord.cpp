@@ -9,48 +9,10 @@ class HLAfixedRecordImplementation : public ElementSequence {};
 
 HLAfixedRecord::HLAfixedRecord() : _implementation(new HLAfixedRecordImplementation) {}
 
-HLAfixedRecord::HLAfixedRecord(HLAfixedRecord const& rhs)
-      : DataElement(rhs),
-        _implementation(new HLAfixedRecordImplementation(*rhs._implementation))
-{
-}
-
-HLAfixedRecord::~HLAfixedRecord()
-{
-   delete _implementation;
-}
-
-HLAfixedRecord& HLAfixedRecord::operator=(HLAfixedRecord const& rhs)
-{
-   HLAfixedRecordImplementation* const old = _implementation;
-   _implementation = new HLAfixedRecordImplementation(*rhs._implementation);
-   delete old;
-   return *this;
-}
-
+RTI_DEFINE_COPYING(HLAfixedRecord)
+RTI_DEFINE_ASSIGNMENT(HLAfixedRecord)
 RTI_DEFINE_COMPOSITE_MEMBERS(HLAfixedRecord)
-
-void HLAfixedRecord::encodeInto(std::vector<Octet>& buffer) const RTI_THROW((EncoderException))
-{
-   padTo(*this, buffer);
-   _implementation->encodeInto(buffer);
-}
-
-std::size_t HLAfixedRecord::decodeFrom(std::vector<Octet> const& buffer, std::size_t index)
-      RTI_THROW((EncoderException))
-{
-   return _implementation->decodeFrom(buffer, index);
-}
-
-std::size_t HLAfixedRecord::getEncodedLength() const RTI_THROW((EncoderException))
-{
-   return _implementation->encodedLength(0);
-}
-
-unsigned int HLAfixedRecord::getOctetBoundary() const
-{
-   return _implementation->boundary(1);
-}
+RTI_DEFINE_SEQUENCE_MEMBERS(HLAfixedRecord)
 
 bool HLAfixedRecord::isSameTypeAs(DataElement const& inData) const
 {

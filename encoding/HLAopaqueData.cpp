@@ -31,7 +31,11 @@ public:
       use(external, bufferSize, dataSize);
    }
 
-   HLAopaqueDataImplementation(HLAopaqueDataImplementation const&) = delete;
+   HLAopaqueDataImplementation(HLAopaqueDataImplementation const& rhs)
+         : HLAopaqueDataImplementation(rhs.buffer, rhs.dataLength)
+   {
+   }
+
    HLAopaqueDataImplementation& operator=(HLAopaqueDataImplementation const&) = delete;
 
    ~HLAopaqueDataImplementation()
@@ -90,20 +94,11 @@ HLAopaqueData::HLAopaqueData(Octet** inData, std::size_t bufferSize, std::size_t
 {
 }
 
-HLAopaqueData::HLAopaqueData(HLAopaqueData const& rhs)
-      : DataElement(rhs),
-        _implementation(new HLAopaqueDataImplementation(rhs.get(), rhs.dataLength()))
-{
-}
-
-HLAopaqueData::~HLAopaqueData()
-{
-   delete _implementation;
-}
+RTI_DEFINE_COPYING(HLAopaqueData)
 
 HLAopaqueData& HLAopaqueData::operator=(HLAopaqueData const& rhs)
 {
-   set(rhs.get(), rhs.dataLength());
+   _implementation->copy(rhs._implementation->buffer, rhs._implementation->dataLength);
    return *this;
 }
 
@@ -130,7 +125,7 @@ std::size_t HLAopaqueData::decodeFrom(std::vector<Octet> const& buffer, std::siz
    }
    Octet const* const data = length == 0 ? EMPTY_ARRAY : &buffer[index];
    if (_implementation->owned) {
-      set(data, length);
+      _implementation->copy(data, length);
    } else if (length > _implementation->bufferLength) {
       throw EncoderException(L"Insufficient external storage");
    } else {

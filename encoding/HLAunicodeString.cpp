@@ -1,4 +1,4 @@
 // HLAunicodeString: UTF-16 units behind their number.
 #include "encoding/BasicDataElement.h"
 
-RTI_DEFINE_SCALAR(HLAunicodeString, std::wstring)
+RTI_DEFINE_BASIC_DATA_ELEMENT(HLAunicodeString, std::wstring)

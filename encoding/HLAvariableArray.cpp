@@ -46,17 +46,7 @@ HLAvariableArray::HLAvariableArray(DataElement const& prototype)
 {
 }
 
-HLAvariableArray::HLAvariableArray(HLAvariableArray const& rhs)
-      : DataElement(rhs),
-        _implementation(new HLAvariableArrayImplementation(*rhs._implementation))
-{
-}
-
-HLAvariableArray::~HLAvariableArray()
-{
-   delete _implementation;
-}
-
+RTI_DEFINE_COPYING(HLAvariableArray)
 RTI_DEFINE_COMPOSITE_MEMBERS(HLAvariableArray)
 
 void HLAvariableArray::encodeInto(std::vector<Octet>& buffer) const RTI_THROW((EncoderException))
@@ -122,21 +112,7 @@ void HLAvariableArray::addElementPointer(DataElement* inData) RTI_THROW((Encoder
    _implementation->append(callersOwn(inData));
 }
 
-void HLAvariableArray::set(std::size_t index, DataElement const& inData)
-      RTI_THROW((EncoderException))
-{
-   checkIndex(index, size());
-   checkPrototype(hasPrototypeSameTypeAs(inData));
-   _implementation->replace(index, cloneOf(inData));
-}
-
-void HLAvariableArray::setElementPointer(std::size_t index, DataElement* inData)
-      RTI_THROW((EncoderException))
-{
-   checkIndex(index, size());
-   checkPrototype(hasPrototypeSameTypeAs(*inData));
-   _implementation->replace(index, callersOwn(inData));
-}
+RTI_DEFINE_ARRAY_SETTERS(HLAvariableArray)
 
 DataElement const& HLAvariableArray::get(std::size_t index) const
 {

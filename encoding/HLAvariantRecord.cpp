@@ -91,25 +91,8 @@ HLAvariantRecord::HLAvariantRecord(DataElement const& discriminantPrototype)
 {
 }
 
-HLAvariantRecord::HLAvariantRecord(HLAvariantRecord const& rhs)
-      : DataElement(rhs),
-        _implementation(new HLAvariantRecordImplementation(*rhs._implementation))
-{
-}
-
-HLAvariantRecord::~HLAvariantRecord()
-{
-   delete _implementation;
-}
-
-HLAvariantRecord& HLAvariantRecord::operator=(HLAvariantRecord const& rhs)
-{
-   HLAvariantRecordImplementation* const old = _implementation;
-   _implementation = new HLAvariantRecordImplementation(*rhs._implementation);
-   delete old;
-   return *this;
-}
-
+RTI_DEFINE_COPYING(HLAvariantRecord)
+RTI_DEFINE_ASSIGNMENT(HLAvariantRecord)
 RTI_DEFINE_COMPOSITE_MEMBERS(HLAvariantRecord)
 
 void HLAvariantRecord::encodeInto(std::vector<Octet>& buffer) const RTI_THROW((EncoderException))

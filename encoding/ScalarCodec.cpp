@@ -3,26 +3,27 @@
 
 #include "encoding/Encoder.h"
 
-#include <RTI/encoding/BasicDataElements.h>
-#include <typeindex>
-#include <unordered_map>
-
 namespace rti1516e {
 
 // Each is defined in the unit of its class.
 #define DECLARE_CODEC(Name, Value, Order, Bytes) extern ScalarCodec const Name##Codec;
 ENCODER_FOR_EACH_SCALAR(DECLARE_CODEC)
 
-#define CODEC_BY_CLASS(Name, Value, Order, Bytes) {typeid(Name), &Name##Codec},
+#define CODEC_ADDRESS(Name, Value, Order, Bytes) &Name##Codec,
 
+// Compares addresses only: a class whose type information stands twice in the process is taken for
+// a foreign one, which is slower and no less right.
 ScalarCodec const* scalarCodecOf(DataElement const& element)
 {
-   typedef std::unordered_map<std::type_index, ScalarCodec const*> Codecs;
-   // Never deleted: static objects of a federate may use it while the process ends.
-   static Codecs const& codecs = *new Codecs{ENCODER_FOR_EACH_SCALAR(CODEC_BY_CLASS)};
+   static ScalarCodec const* const codecs[] = {ENCODER_FOR_EACH_SCALAR(CODEC_ADDRESS)};
 
-   Codecs::const_iterator const found = codecs.find(typeid(element));
-   return found == codecs.end() ? nullptr : found->second;
+   std::type_info const* const type = &typeid(element);
+   for (ScalarCodec const* const codec : codecs) {
+      if (codec->type == type) {
+         return codec;
+      }
+   }
+   return nullptr;
 }
 
 } // namespace rti1516e

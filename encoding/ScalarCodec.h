@@ -5,11 +5,13 @@
 #define encoding_ScalarCodec_h
 
 #include <RTI/encoding/DataElement.h>
+#include <typeinfo>
 
 namespace rti1516e {
 
 struct ScalarCodec {
    unsigned int bytes; // size and boundary
+   std::type_info const* type;
    void (*store)(DataElement const& scalar, char* out);
    void (*load)(DataElement& scalar, char const* in);
 };

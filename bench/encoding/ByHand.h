@@ -40,7 +40,8 @@ template <class Order, class Value>
 void takeByHand(Bytes const& buffer, std::size_t& index, Value& value)
 {
    std::size_t const bytes = sizeof(Encoder::bitsOf(value));
-   value = Encoder::decodeScalar<Order, Value>(takeRoom(buffer, index, bytes, bytes));
+   value = Encoder::decodeValue<Encoder::ScalarCoding<Value, Order>>(
+         takeRoom(buffer, index, bytes, bytes), bytes);
 }
 
 #endif

@@ -49,7 +49,8 @@ void store(Track const& track, char* out)
 void load(Track& track, char const* in)
 {
 #define LOAD(Class, field, Order, offset)                                                          \
-   track.field = Encoder::decodeScalar<Encoder::Order, decltype(track.field)>(in + offset);
+   Encoder::ScalarCoding<decltype(track.field), Encoder::Order>::decode(                           \
+         in + offset, 8, track.field);
    FOR_EACH_FIELD(LOAD)
 }
 
