@@ -11,9 +11,6 @@ namespace rti1516e {
 
 namespace {
 
-double const INITIAL_VALUE = 0.0;
-double const FINAL_VALUE = std::numeric_limits<double>::max();
-
 // A double moved by one unit of its bit pattern, whatever its sign: a negative one moves away from
 // zero by inc.
 
@@ -38,63 +35,37 @@ double dec(double value)
 
 } // namespace
 
-DEFINE_STANDARD_TIME(HLAfloat64Time, LogicalTime, double, HLAfloat64BE, HLAfloat64Time)
+class HLAfloat64TimeImplementation : public StandardValue<Encoder::HLAfloat64BECoding> {
+public:
+   static constexpr double INITIAL_VALUE = 0.0;
+   static constexpr double FINAL_VALUE = std::numeric_limits<double>::max();
 
-HLAfloat64Time::HLAfloat64Time(double const& value) : HLAfloat64Time()
+   using StandardValue::StandardValue;
+
+   void add(double distance)
+   {
+      moveTo(sumOf(value, distance), distance, inc(value));
+   }
+
+   void subtract(double distance)
+   {
+      moveTo(differenceOf(value, distance), distance, dec(value));
+   }
+
+private:
+   // Takes the neighbour instead where rounding has lost the distance.
+   void moveTo(double target, double distance, double neighbour)
+   {
+      bool const lost = target == value && distance != 0.0;
+      value = lost ? neighbour : target;
+   }
+};
+
+HLAfloat64Time::HLAfloat64Time(double const& value)
+      : _implementation(new HLAfloat64TimeImplementation(value))
 {
-   _implementation->value = value;
 }
 
-void HLAfloat64Time::setInitial()
-{
-   _implementation->value = INITIAL_VALUE;
-}
-
-bool HLAfloat64Time::isInitial() const
-{
-   return _implementation->value == INITIAL_VALUE;
-}
-
-void HLAfloat64Time::setFinal()
-{
-   _implementation->value = FINAL_VALUE;
-}
-
-bool HLAfloat64Time::isFinal() const
-{
-   return _implementation->value == FINAL_VALUE;
-}
-
-LogicalTime& HLAfloat64Time::operator+=(LogicalTimeInterval const& addend)
-      RTI_THROW((IllegalTimeArithmetic, InvalidLogicalTimeInterval))
-{
-   HLAfloat64Interval const& interval = dynamic_cast<HLAfloat64Interval const&>(addend);
-   double const distance = interval.getInterval();
-   double const sum = _implementation->value + distance;
-   bool const lost = sum == _implementation->value && distance != 0.0;
-   _implementation->value = lost ? inc(_implementation->value) : sum;
-   return *this;
-}
-
-LogicalTime& HLAfloat64Time::operator-=(LogicalTimeInterval const& subtrahend)
-      RTI_THROW((IllegalTimeArithmetic, InvalidLogicalTimeInterval))
-{
-   HLAfloat64Interval const& interval = dynamic_cast<HLAfloat64Interval const&>(subtrahend);
-   double const distance = interval.getInterval();
-   double const difference = _implementation->value - distance;
-   bool const lost = difference == _implementation->value && distance != 0.0;
-   _implementation->value = lost ? dec(_implementation->value) : difference;
-   return *this;
-}
-
-double HLAfloat64Time::getTime() const
-{
-   return _implementation->value;
-}
-
-void HLAfloat64Time::setTime(double value)
-{
-   _implementation->value = value;
-}
+DEFINE_STANDARD_TIME(HLAfloat64Time, HLAfloat64Interval, double)
 
 } // namespace rti1516e
