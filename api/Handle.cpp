@@ -98,13 +98,52 @@ std::wstring print(wchar_t const* name, Integer value)
 
 RTI_FOR_EACH_HANDLE(DEFINE_HANDLE)
 
+MessageRetractionHandleImplementation* MessageRetractionHandleImplementation::none()
+{
+   // Never deleted: static objects of a federate may use it while the process ends.
+   static MessageRetractionHandleImplementation* const none =
+         new MessageRetractionHandleImplementation;
+   return none;
+}
+
+MessageRetractionHandleImplementation* MessageRetractionHandleImplementation::make(
+      int id, void const* payload, unsigned long payloadSize)
+{
+   if (id == 0 && payloadSize == 0) {
+      return none();
+   }
+   std::unique_ptr<MessageRetractionHandleImplementation> record(
+         new MessageRetractionHandleImplementation);
+   record->id = id;
+   record->payload.setData(payload, payloadSize);
+   return record.release();
+}
+
+void MessageRetractionHandleImplementation::destroy()
+{
+   if (this != none()) {
+      delete this;
+   }
+}
+
+namespace {
+
+// The record of another handle.
+MessageRetractionHandleImplementation* copyOf(MessageRetractionHandleImplementation const& record)
+{
+   return MessageRetractionHandleImplementation::make(
+         record.id, record.payload.data(), record.payload.size());
+}
+
+} // namespace
+
 MessageRetractionHandle::MessageRetractionHandle()
-      : _implementation(new MessageRetractionHandleImplementation)
+      : _implementation(MessageRetractionHandleImplementation::none())
 {
 }
 
 MessageRetractionHandle::MessageRetractionHandle(MessageRetractionHandle const& rhs)
-      : _implementation(new MessageRetractionHandleImplementation(*rhs._implementation))
+      : _implementation(copyOf(*rhs._implementation))
 {
 }
 
@@ -118,19 +157,20 @@ MessageRetractionHandle::MessageRetractionHandle(VariableLengthData const& encod
       : _implementation(nullptr)
 {
    char const* const bytes = static_cast<char const*>(encodedValue.data());
-   _implementation = new MessageRetractionHandleImplementation(static_cast<int>(loadInteger(bytes)),
-         VariableLengthData(bytes + 8, loadInteger(bytes + 4)));
+   _implementation = MessageRetractionHandleImplementation::make(
+         static_cast<int>(loadInteger(bytes)), bytes + 8, loadInteger(bytes + 4));
 }
 
 MessageRetractionHandle::~MessageRetractionHandle()
 {
-   delete _implementation;
+   _implementation->destroy();
 }
 
 MessageRetractionHandle& MessageRetractionHandle::operator=(MessageRetractionHandle const& rhs)
 {
-   delete _implementation;
-   _implementation = new MessageRetractionHandleImplementation(*rhs._implementation);
+   _implementation->destroy();
+   _implementation = MessageRetractionHandleImplementation::none(); // if there is no memory
+   _implementation = copyOf(*rhs._implementation);
    return *this;
 }
 
@@ -210,7 +250,8 @@ std::wostream& operator<<(std::wostream& stream, MessageRetractionHandle const& 
    return stream << handle.toString();
 }
 
-MessageRetractionHandle MessageRetractionHandleFriend::makeHandle(VariableLengthData encodedValue)
+MessageRetractionHandle MessageRetractionHandleFriend::makeHandle(
+      VariableLengthData const& encodedValue)
 {
    return MessageRetractionHandle(encodedValue);
 }
@@ -220,7 +261,12 @@ MessageRetractionHandle MessageRetractionHandleFriend::makeHandle(char* encodedV
    signed char const* const size = reinterpret_cast<signed char const*>(encodedValue) + 4;
    long const payloadSize = static_cast<unsigned char>(size[0]) * 0x1000000L | size[1] * 0x10000L
          | size[2] * 0x100L | size[3];
-   return makeHandle(VariableLengthData(encodedValue, static_cast<unsigned long>(payloadSize) + 8));
+   if (payloadSize < 0) {
+      throw std::bad_alloc();
+   }
+   return MessageRetractionHandle(
+         MessageRetractionHandleImplementation::make(static_cast<int>(loadInteger(encodedValue)),
+               encodedValue + 8, static_cast<unsigned long>(payloadSize)));
 }
 
 MessageRetractionHandle makeMessageRetractionHandle(VariableLengthData const& encodedValue)

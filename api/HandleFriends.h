@@ -51,6 +51,9 @@ RTI_FOR_EACH_HANDLE(DECLARE_HANDLE_FRIEND)
 
 class MessageRetractionHandleImplementation {
 public:
+   // The record of all handles that name nothing. Never written to.
+   static MessageRetractionHandleImplementation* none();
+
    MessageRetractionHandleImplementation() : id(0) {}
    MessageRetractionHandleImplementation(int inId, VariableLengthData inPayload)
          : id(inId),
@@ -58,16 +61,24 @@ public:
    {
    }
 
+   // A record with a copy of the payload, for one handle alone; none() if there is nothing to hold.
+   static MessageRetractionHandleImplementation* make(
+         int id, void const* payload, unsigned long payloadSize);
+
+   // Frees the record unless it is none().
+   void destroy();
+
    int id;
    VariableLengthData payload;
 };
 
 class MessageRetractionHandleFriend {
 public:
-   static MessageRetractionHandle makeHandle(VariableLengthData encodedValue);
+   static MessageRetractionHandle makeHandle(VariableLengthData const& encodedValue);
 
    // Takes an encoded form of unknown length. Of the four bytes of its size field the last three
-   // count as signed, so that a payload of 128 to 255 bytes, for one, is taken for a huge one.
+   // count as signed, so that a payload of 128 to 255 bytes, for one, is taken for one that no
+   // memory holds: std::bad_alloc.
    static MessageRetractionHandle makeHandle(char* encodedValue);
 };
 

@@ -5,7 +5,19 @@
 
 namespace rti1516e {
 
-VariableLengthData::VariableLengthData() : _implementation(new VariableLengthDataImplementation) {}
+namespace {
+
+char noBytes[1];
+
+} // namespace
+
+constexpr VariableLengthDataImplementation VariableLengthDataImplementation::NONE(nullptr, true);
+constexpr VariableLengthDataImplementation VariableLengthDataImplementation::COPY_OF_NONE(
+      noBytes, true);
+
+VariableLengthData::VariableLengthData() : _implementation(VariableLengthDataImplementation::none())
+{
+}
 
 VariableLengthData::VariableLengthData(void const* inData, unsigned long inSize)
       : _implementation(VariableLengthDataImplementation::makeCopy(inData, inSize))
@@ -19,7 +31,7 @@ VariableLengthData::VariableLengthData(VariableLengthData const& rhs)
 
 VariableLengthData::~VariableLengthData()
 {
-   delete _implementation;
+   _implementation->destroy();
 }
 
 VariableLengthData& VariableLengthData::operator=(VariableLengthData const& rhs)
@@ -40,13 +52,19 @@ unsigned long VariableLengthData::size() const
 
 void VariableLengthData::setData(void const* inData, unsigned long inSize)
 {
-   delete _implementation;
+   if (_implementation->hasRoomFor(inSize)) {
+      _implementation->setCopy(inData, inSize);
+      return;
+   }
+   _implementation->destroy();
+   _implementation = VariableLengthDataImplementation::none(); // if there is no memory
    _implementation = VariableLengthDataImplementation::makeCopy(inData, inSize);
 }
 
 void VariableLengthData::setDataPointer(void* inData, unsigned long inSize)
 {
-   delete _implementation;
+   _implementation->destroy();
+   _implementation = VariableLengthDataImplementation::none(); // if there is no memory
    _implementation = new VariableLengthDataImplementation;
    _implementation->data = inData;
    _implementation->size = inSize;

@@ -274,7 +274,7 @@ TEST(MessageRetractionHandleTest, takesPayloadsWhoseSizeHasNoByteAbove127)
 
 TEST(MessageRetractionHandleDeathTest, losesPayloadsOfOtherSizes)
 {
-   for (unsigned int size : {128u, 200u, 384u}) {
+   for (unsigned int size : {128u, 200u, 248u, 255u, 384u, 504u, 511u}) {
       std::string bytes = encodedWithPayload(size);
       EXPECT_EQ(8 + size,
             makeMessageRetractionHandle(VariableLengthData(bytes.data(), bytes.size()))

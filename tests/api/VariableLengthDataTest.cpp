@@ -90,6 +90,24 @@ TEST(VariableLengthDataTest, everyReplacementFreesWhatWasThere)
    EXPECT_EQ("65 79 7A", hex(data));
 }
 
+// Whether the old record serves again or not, what is held is what was set last.
+TEST(VariableLengthDataTest, holdsWhatWasSetLast)
+{
+   std::string bytes(1000, '\0');
+   VariableLengthData data;
+   VariableLengthData copy(data);
+   EXPECT_NE(nullptr, copy.data()) << "a copy of nothing";
+   for (std::size_t const size : {0, 8, 3, 1000, 600, 400, 90, 0, 1, 65, 66}) {
+      std::string const before = hex(data);
+      copy = data;
+      bytes[0] = static_cast<char>(size);
+      data.setData(bytes.data(), size);
+      EXPECT_EQ(hex(bytes.data(), size), hex(data));
+      EXPECT_NE(nullptr, data.data());
+      EXPECT_EQ(before, hex(copy));
+   }
+}
+
 TEST(VariableLengthDataTest, sortsBySignedBytes)
 {
    char const* const ascending[] = {"", "80", "80 00", "FF", "00", "00 FF", "00 00", "01", "7F"};
