@@ -34,17 +34,8 @@ void addArray(std::size_t size)
          Encoder::encodeHLAinteger32BE(integer, out += 4);
       }
    });
-   measureDecode(name + "/floor", size, bytes, [=](Bytes const& buffer) {
-      std::size_t index = 0;
-      int count;
-      takeByHand<Encoder::BigEndian>(buffer, index, count);
-      integers->resize(static_cast<std::size_t>(count));
-      char const* in = takeRoom(buffer, index, 4, 4 * integers->size());
-      for (int& integer : *integers) {
-         integer = Encoder::decodeHLAinteger32BE(in, 4);
-         in += 4;
-      }
-   });
+   measureDecode(name + "/floor", size, bytes,
+         [=](Bytes const& buffer) { takeIntegers(buffer, *integers); });
 #ifdef BENCH_MSGPACK
    measureOther(
          name, size,

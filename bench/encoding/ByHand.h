@@ -44,4 +44,18 @@ void takeByHand(Bytes const& buffer, std::size_t& index, Value& value)
          takeRoom(buffer, index, bytes, bytes), bytes);
 }
 
+// An array of HLAinteger32BE.
+inline void takeIntegers(Bytes const& buffer, std::vector<int>& integers)
+{
+   std::size_t index = 0;
+   int count;
+   takeByHand<Encoder::BigEndian>(buffer, index, count);
+   integers.resize(static_cast<std::size_t>(count));
+   char const* in = takeRoom(buffer, index, 4, 4 * integers.size());
+   for (int& integer : integers) {
+      integer = Encoder::decodeHLAinteger32BE(in, 4);
+      in += 4;
+   }
+}
+
 #endif

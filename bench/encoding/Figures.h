@@ -1,5 +1,6 @@
 // How a case is measured: "<case>/subject" is the library's element, "<case>/floor" is hand-written
-// code that writes the same bytes into the same kind of vector, or reads them from one, and
+// code that writes the same bytes into the same kind of vector, or reads them from one,
+// "<case>/table" goes by a table of the values' kinds and places that is made at run time, and
 // "<case>/other" is MessagePack with the same values.
 #ifndef bench_encoding_Figures_h
 #define bench_encoding_Figures_h
@@ -16,6 +17,7 @@ void addScalars();
 void addRecords();
 void addArrays();
 void addBlocks();
+void addMakes();
 
 typedef std::vector<rti1516e::Octet> Bytes;
 

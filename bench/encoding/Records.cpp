@@ -1,65 +1,65 @@
 // A record of ten mixed fields, 64 bytes, and a record with an array of a hundred of them.
-#include "bench/encoding/ByHand.h"
+#include "bench/encoding/Track.h"
 
+#include <cstddef>
 #include <RTI/encoding/BasicDataElements.h>
-#include <RTI/encoding/HLAfixedRecord.h>
 #include <RTI/encoding/HLAvariableArray.h>
 
 using namespace rti1516e;
 
 namespace {
 
-// X(element class, field, order, offset)
-#define FOR_EACH_FIELD(X)                                                                          \
-   X(HLAinteger32BE, count, BigEndian, 0)                                                          \
-   X(HLAfloat64BE, longitude, BigEndian, 8)                                                        \
-   X(HLAinteger16BE, heading, BigEndian, 16)                                                       \
-   X(HLAoctet, kind, BigEndian, 18)                                                                \
-   X(HLAboolean, visible, BigEndian, 20)                                                           \
-   X(HLAfloat32BE, speed, BigEndian, 24)                                                           \
-   X(HLAinteger64BE, time, BigEndian, 32)                                                          \
-   X(HLAunicodeChar, mark, BigEndian, 40)                                                          \
-   X(HLAfloat64BE, latitude, BigEndian, 48)                                                        \
-   X(HLAfloat64LE, altitude, LittleEndian, 56)
-
-std::size_t const RECORD_BYTES = 64;
 std::size_t const RECORDS = 100;
 
-struct Track {
-   int count = 1;
-   double longitude = 2.5;
-   short heading = 3;
-   char kind = 4;
-   bool visible = true;
-   float speed = 6.5F;
-   long long time = 7;
-   wchar_t mark = L'8';
-   double latitude = 9.5;
-   double altitude = 10.5;
+// What is known at run time only: where a field lies in the struct and in the bytes, and its kind.
+enum Kind {
+#define KIND(Name, Value, Order, Bytes) KIND_OF_##Name,
+   ENCODER_FOR_EACH_SCALAR(KIND)
 };
 
-// The layout is known beforehand: room for all the fields at once, each at a constant offset.
-void store(Track const& track, char* out)
+struct Row {
+   Kind kind;
+   std::size_t inStruct;
+   std::size_t inBytes;
+};
+
+std::vector<Row> const& rows()
 {
-#define STORE(Class, field, Order, offset)                                                         \
-   Encoder::Order::store(Encoder::bitsOf(track.field), out + offset);
-   FOR_EACH_FIELD(STORE)
+   static std::vector<Row> rows;
+   if (rows.empty()) {
+#define ADD_ROW(Class, field, Order, offset)                                                       \
+   rows.push_back({KIND_OF_##Class, offsetof(Track, field), offset});
+      FOR_EACH_FIELD(ADD_ROW)
+   }
+   return rows;
 }
 
-void load(Track& track, char const* in)
+void storeByTable(char const* track, char* out)
 {
-#define LOAD(Class, field, Order, offset)                                                          \
-   Encoder::ScalarCoding<decltype(track.field), Encoder::Order>::decode(                           \
-         in + offset, 8, track.field);
-   FOR_EACH_FIELD(LOAD)
+   for (Row const& row : rows()) {
+      switch (row.kind) {
+#define STORE_KIND(Name, Value, Order, Bytes)                                                      \
+   case KIND_OF_##Name:                                                                            \
+      Encoder::encode##Name(                                                                       \
+            *reinterpret_cast<Value const*>(track + row.inStruct), out + row.inBytes);             \
+      break;
+         ENCODER_FOR_EACH_SCALAR(STORE_KIND)
+      }
+   }
 }
 
-HLAfixedRecord recordOf(Track const& track)
+void loadByTable(char* track, char const* in)
 {
-   HLAfixedRecord record;
-#define APPEND(Class, field, Order, offset) record.appendElement(Class(track.field));
-   FOR_EACH_FIELD(APPEND)
-   return record;
+   for (Row const& row : rows()) {
+      switch (row.kind) {
+#define LOAD_KIND(Name, Value, Order, Bytes)                                                       \
+   case KIND_OF_##Name:                                                                            \
+      *reinterpret_cast<Value*>(track + row.inStruct) =                                            \
+            Encoder::decode##Name(in + row.inBytes, Bytes);                                        \
+      break;
+         ENCODER_FOR_EACH_SCALAR(LOAD_KIND)
+      }
+   }
 }
 
 Track& sample()
@@ -78,6 +78,13 @@ void addRecordOfTen()
    measureDecode(name + "/floor", 10, bytes, [](Bytes const& buffer) {
       std::size_t index = 0;
       load(sample(), takeRoom(buffer, index, 8, RECORD_BYTES));
+   });
+   measureEncode(name + "/table", 10, [](Bytes& buffer) {
+      storeByTable(reinterpret_cast<char const*>(&sample()), addRoom(buffer, 8, RECORD_BYTES));
+   });
+   measureDecode(name + "/table", 10, bytes, [](Bytes const& buffer) {
+      std::size_t index = 0;
+      loadByTable(reinterpret_cast<char*>(&sample()), takeRoom(buffer, index, 8, RECORD_BYTES));
    });
 
    // The same against a hand that takes one field after the other, each at its own boundary.
@@ -180,6 +187,28 @@ void addOthers()
 #endif
 
 } // namespace
+
+void store(Track const& track, char* out)
+{
+#define STORE(Class, field, Order, offset)                                                         \
+   Encoder::Order::store(Encoder::bitsOf(track.field), out + offset);
+   FOR_EACH_FIELD(STORE)
+}
+
+void load(Track& track, char const* in)
+{
+#define LOAD(Class, field, Order, offset)                                                          \
+   track.field = Encoder::decode##Class(in + offset, sizeof(track.field));
+   FOR_EACH_FIELD(LOAD)
+}
+
+HLAfixedRecord recordOf(Track const& track)
+{
+   HLAfixedRecord record;
+#define APPEND(Class, field, Order, offset) record.appendElement(Class(track.field));
+   FOR_EACH_FIELD(APPEND)
+   return record;
+}
 
 void addRecords()
 {

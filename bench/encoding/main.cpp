@@ -12,6 +12,7 @@ int main(int argc, char** argv)
    addRecords();
    addArrays();
    addBlocks();
+   addMakes();
    benchmark::RunSpecifiedBenchmarks();
    return 0;
 }
