@@ -59,7 +59,7 @@ using performance::cases;
 TEST(Allocations, areCounted)
 {
    long const before = allocations;
-   rti1516e::VariableLengthData const data;
+   rti1516e::VariableLengthData const data("x", 1);
    EXPECT_EQ(1, allocations - before);
 }
 
