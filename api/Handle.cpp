@@ -29,11 +29,9 @@ unsigned int loadInteger(void const* bytes)
 
 VariableLengthData encodeWord(unsigned long word)
 {
-   std::unique_ptr<char[]> bytes(new char[4]);
-   storeInteger(word, bytes.get());
-   VariableLengthData data;
-   data.takeDataPointer(bytes.release(), 4);
-   return data;
+   char bytes[4];
+   storeInteger(word, bytes);
+   return VariableLengthData(bytes, 4);
 }
 
 unsigned long encodeWord(unsigned long word, void* buffer, unsigned long bufferSize)

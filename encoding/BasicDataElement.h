@@ -55,18 +55,16 @@ public:
       return static_cast<std::size_t>(Coding::size(get()));
    }
 
-   void encode(VariableLengthData& data) const
-   {
-      int length;
-      std::unique_ptr<char[]> bytes(Encoder::encodeNew<Coding>(get(), length));
-      data.setData(bytes.get(), static_cast<unsigned long>(length));
-   }
-
    VariableLengthData encode() const
    {
-      VariableLengthData data;
-      encode(data);
-      return data;
+      typename Coding::Bytes bytes(get());
+      return VariableLengthData(bytes.data(), bytes.size());
+   }
+
+   void encode(VariableLengthData& data) const
+   {
+      typename Coding::Bytes bytes(get());
+      data.setData(bytes.data(), bytes.size());
    }
 
    void encodeInto(std::vector<Octet>& buffer, unsigned int boundary) const

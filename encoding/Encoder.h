@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <cstring>
+#include <memory>
 #include <RTI/encoding/EncodingConfig.h>
 #include <string>
 #include <vector>
@@ -239,6 +240,26 @@ public:
       setFromBits(bits, value);
    }
 
+   // The encoded value, in a few bytes of stack.
+   struct Bytes {
+      explicit Bytes(Value const& value)
+      {
+         encode(value, data());
+      }
+
+      char* data()
+      {
+         return bytes;
+      }
+
+      static unsigned long size()
+      {
+         return boundary;
+      }
+
+      char bytes[boundary];
+   };
+
    // Adds padding to the boundary given and the encoded value.
    static void append(std::vector<char>& buffer, unsigned long at, Value const& value)
    {
@@ -249,6 +270,17 @@ public:
 
 // A number of bytes as an int: exact below 2^31 and negative from there on.
 int sizeAsInt(unsigned long size);
+
+// A new array of char that the caller frees by delete[]; length is set to its size. A negative size
+// asks for more than there is: std::bad_alloc.
+template <class Coding>
+char* encodeNew(typename Coding::Value const& value, int& length)
+{
+   length = Coding::size(value);
+   char* const buffer = new char[static_cast<std::size_t>(length)];
+   Coding::encode(value, buffer);
+   return buffer;
+}
 
 // Text is std::string or std::wstring: a count of characters, 4 bytes, most significant first; then
 // the characters, one byte each or two (the low 16 bits, most significant byte first). Nothing is
@@ -271,6 +303,26 @@ public:
    // that the count says, and what lies outside the data is read as zero.
    static void decode(void const* buffer, unsigned long length, Text& value);
 
+   // The encoded value.
+   class Bytes {
+   public:
+      explicit Bytes(Text const& value) : _data(encodeNew<StringCoding>(value, _size)) {}
+
+      char* data()
+      {
+         return _data.get();
+      }
+
+      unsigned long size() const
+      {
+         return static_cast<unsigned long>(_size);
+      }
+
+   private:
+      int _size;
+      std::unique_ptr<char[]> _data;
+   };
+
    // Adds padding to the boundary given and the encoded value. A string whose size is negative is a
    // std::length_error.
    static void append(std::vector<char>& buffer, unsigned long at, Text const& value);
@@ -286,17 +338,6 @@ ENCODER_FOR_EACH_SCALAR(ENCODER_SCALAR_CODING)
 
 typedef StringCoding<std::string> HLAASCIIstringCoding;
 typedef StringCoding<std::wstring> HLAunicodeStringCoding;
-
-// A new array of char that the caller frees by delete[]; length is set to its size. A negative size
-// asks for more than there is: std::bad_alloc.
-template <class Coding>
-char* encodeNew(typename Coding::Value const& value, int& length)
-{
-   length = Coding::size(value);
-   char* const buffer = new char[static_cast<std::size_t>(length)];
-   Coding::encode(value, buffer);
-   return buffer;
-}
 
 template <class Coding>
 typename Coding::Value decodeValue(void const* buffer, unsigned long length)

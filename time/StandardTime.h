@@ -55,11 +55,8 @@ public:
 
    VariableLengthData encode() const
    {
-      int length;
-      char* const bytes = Encoder::encodeNew<Coding>(value, length);
-      VariableLengthData data;
-      data.takeDataPointer(bytes, static_cast<unsigned long>(length));
-      return data;
+      typename Coding::Bytes bytes(value);
+      return VariableLengthData(bytes.data(), bytes.size());
    }
 
    size_t encode(void* buffer, size_t bufferSize, size_t encodedLength) const

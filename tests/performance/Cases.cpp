@@ -118,7 +118,7 @@ private:
    void addTimedServices()
    {
       AttributeHandleValueMap const values = makeValues(1, 8);
-      addService("timed-update-1x8", 3 + 2, 4 + 4 + 16 + 4 + 8, [=](RTIambassador& ambassador) {
+      addService("timed-update-1x8", 1, 4 + 4 + 16 + 4 + 8, [=](RTIambassador& ambassador) {
          static VariableLengthData const noTag;
          static HLAfloat64Time const time(1.5);
          ambassador.updateAttributeValues(_object, values, noTag, time);
