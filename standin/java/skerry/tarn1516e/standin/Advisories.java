@@ -1,8 +1,8 @@
 // Tells members, as far as they have the advisories switched on, whether others are interested in
-// what they publish. Compares what holds with what was last told.
+// the classes that they publish. Compares what holds with what was last told.
 package skerry.tarn1516e.standin;
 
-import java.util.Map;
+import java.util.ArrayList;
 import java.util.Set;
 import java.util.TreeSet;
 
@@ -13,56 +13,64 @@ final class Advisories {
       _federation = federation;
    }
 
-   void update() {
+   /** All that the member publishes. */
+   void update(Member member) {
+      Declarations declarations = member.declarations();
+      new ArrayList<>(declarations.published.keySet())
+            .forEach(each -> updateRegistration(member, each));
+      new ArrayList<>(declarations.publishedInteractions)
+            .forEach(each -> updateSending(member, each));
+   }
+
+   /** Somebody's subscription to the class has changed. */
+   void subscribed(Fom.ObjectClass to) {
       for (Member member : _federation.members()) {
-         if (member.isAdvised(Member.Advisory.OBJECT_CLASS_RELEVANCE)) {
-            updateRegistration(member);
+         for (int published : new TreeSet<>(member.declarations().published.keySet())) {
+            if (_federation.fom().objectClasses.get(published).isOrDescendsFrom(to)) {
+               updateRegistration(member, published);
+            }
          }
-         if (member.isAdvised(Member.Advisory.INTERACTION_RELEVANCE)) {
-            updateSending(member);
-         }
-         member.instanceAdvisories().update();
       }
    }
 
-   private void updateRegistration(Member member) {
-      Declarations declarations = member.declarations();
-      Set<Integer> wanted = new TreeSet<>();
-      for (int published : declarations.published.keySet()) {
-         if (isWanted(member, published)) {
-            wanted.add(published);
+   void subscribed(Fom.InteractionClass to) {
+      for (Member member : _federation.members()) {
+         for (int published : new TreeSet<>(member.declarations().publishedInteractions)) {
+            if (_federation.fom().interactionClasses.get(published).isOrDescendsFrom(to)) {
+               updateSending(member, published);
+            }
          }
       }
-      for (int objectClass : minus(declarations.toRegister, wanted)) {
-         if (declarations.published.containsKey(objectClass)) {
+   }
+
+   void updateRegistration(Member member, int objectClass) {
+      Declarations declarations = member.declarations();
+      if (!declarations.published.containsKey(objectClass)) {
+         declarations.toRegister.remove(objectClass);
+      } else if (member.isAdvised(Member.Advisory.OBJECT_CLASS_RELEVANCE)) {
+         if (isWanted(member, objectClass)) {
+            if (declarations.toRegister.add(objectClass)) {
+               member.callbacks().startRegistrationForObjectClass(objectClass);
+            }
+         } else if (declarations.toRegister.remove(objectClass)) {
             member.callbacks().stopRegistrationForObjectClass(objectClass);
          }
       }
-      for (int objectClass : minus(wanted, declarations.toRegister)) {
-         member.callbacks().startRegistrationForObjectClass(objectClass);
-      }
-      declarations.toRegister.clear();
-      declarations.toRegister.addAll(wanted);
    }
 
-   private void updateSending(Member member) {
+   void updateSending(Member member, int interaction) {
       Declarations declarations = member.declarations();
-      Set<Integer> wanted = new TreeSet<>();
-      for (int published : declarations.publishedInteractions) {
-         if (isInteractionWanted(member, published)) {
-            wanted.add(published);
-         }
-      }
-      for (int interaction : minus(declarations.toSend, wanted)) {
-         if (declarations.publishedInteractions.contains(interaction)) {
+      if (!declarations.publishedInteractions.contains(interaction)) {
+         declarations.toSend.remove(interaction);
+      } else if (member.isAdvised(Member.Advisory.INTERACTION_RELEVANCE)) {
+         if (isInteractionWanted(member, interaction)) {
+            if (declarations.toSend.add(interaction)) {
+               member.callbacks().turnInteractionsOn(interaction);
+            }
+         } else if (declarations.toSend.remove(interaction)) {
             member.callbacks().turnInteractionsOff(interaction);
          }
       }
-      for (int interaction : minus(wanted, declarations.toSend)) {
-         member.callbacks().turnInteractionsOn(interaction);
-      }
-      declarations.toSend.clear();
-      declarations.toSend.addAll(wanted);
    }
 
    /** Whether somebody else has actively subscribed to a published attribute, of the class or of
@@ -70,15 +78,10 @@ final class Advisories {
    private boolean isWanted(Member publisher, int published) {
       Set<Integer> attributes = publisher.declarations().published.get(published);
       for (Member member : _federation.members()) {
-         if (member == publisher) {
-            continue;
-         }
-         for (Fom.ObjectClass at = _federation.fom().objectClasses.get(published); at != null;
-               at = at.parent) {
-            Map<Integer, Interest> interests = member.declarations().subscribed.get(at.handle);
-            if (interests != null
-                  && interests.entrySet().stream().anyMatch(
-                        each -> each.getValue().isActive && attributes.contains(each.getKey()))) {
+         for (Fom.ObjectClass at = _federation.fom().objectClasses.get(published);
+               member != publisher && at != null; at = at.parent) {
+            if (member.declarations().interests(at.handle).entrySet().stream().anyMatch(
+                      each -> each.getValue().isActive() && attributes.contains(each.getKey()))) {
                return true;
             }
          }
@@ -88,23 +91,14 @@ final class Advisories {
 
    private boolean isInteractionWanted(Member publisher, int published) {
       for (Member member : _federation.members()) {
-         if (member == publisher) {
-            continue;
-         }
          for (Fom.InteractionClass at = _federation.fom().interactionClasses.get(published);
-               at != null; at = at.parent) {
+               member != publisher && at != null; at = at.parent) {
             Interest interest = member.declarations().subscribedInteractions.get(at.handle);
-            if (interest != null && interest.isActive) {
+            if (interest != null && interest.isActive()) {
                return true;
             }
          }
       }
       return false;
-   }
-
-   static Set<Integer> minus(Set<Integer> all, Set<Integer> without) {
-      Set<Integer> left = new TreeSet<>(all);
-      left.removeAll(without);
-      return left;
    }
 }

@@ -4,7 +4,6 @@ package skerry.tarn1516e.standin;
 import hla.rti1516e.exceptions.*;
 import java.util.Collections;
 import java.util.HashSet;
-import java.util.Map;
 import java.util.Set;
 
 final class DeclarationService implements DeclarationManagement {
@@ -27,7 +26,7 @@ final class DeclarationService implements DeclarationManagement {
             objectClass, none -> new HashSet<>());
       published.addAll(attributes);
       published.add(member.federation().fom().privilegeToDelete());
-      member.federation().update();
+      member.federation().published(member, Checks.objectClass(member, objectClass));
    }
 
    @Override
@@ -46,19 +45,21 @@ final class DeclarationService implements DeclarationManagement {
 
    /** The member loses what it owns of these attributes. */
    private void unpublish(Member member, Set<Integer> attributes, int objectClass)
-         throws OwnershipAcquisitionPending {
+         throws OwnershipAcquisitionPending, ObjectClassNotDefined {
+      Federation federation = member.federation();
       Set<Integer> published = member.declarations().published.get(objectClass);
       if (published == null) {
          return;
       }
       Set<Integer> ended = new HashSet<>(attributes);
       ended.retainAll(published);
-      if (Collections.singleton(member.federation().fom().privilegeToDelete())
-                  .equals(Advisories.minus(published, ended))) {
+      if (Collections.singleton(federation.fom().privilegeToDelete())
+                  .equals(InstanceAdvisories.minus(published, ended))) {
          ended.addAll(published);
       }
-      for (ObjectInstance instance : member.federation().instances.values()) {
-         if (instance.objectClass == objectClass
+      Fom.ObjectClass found = Checks.objectClass(member, objectClass);
+      for (ObjectInstance instance : federation.instancesOf(found)) {
+         if (instance.isKnownAs(member, objectClass)
                && !Collections.disjoint(instance.acquiredBy(member), ended)) {
             throw new OwnershipAcquisitionPending("the federate is acquiring such an attribute");
          }
@@ -67,14 +68,15 @@ final class DeclarationService implements DeclarationManagement {
       if (published.isEmpty()) {
          member.declarations().published.remove(objectClass);
       }
-      for (ObjectInstance instance : member.federation().instances.values()) {
+      for (ObjectInstance instance : federation.instancesOf(found)) {
          Set<Integer> lost = instance.ownedBy(member);
          lost.retainAll(ended);
-         if (instance.objectClass == objectClass && !lost.isEmpty()) {
-            OwnershipService.release(instance, lost, member);
+         if (instance.isKnownAs(member, objectClass) && !lost.isEmpty()) {
+            Ownership.release(instance, lost, federation);
+            federation.changed(instance);
          }
       }
-      member.federation().update();
+      federation.advisories().updateRegistration(member, objectClass);
    }
 
    @Override
@@ -82,7 +84,7 @@ final class DeclarationService implements DeclarationManagement {
       Member member = _loopback.workingMember();
       Checks.interaction(member, interaction);
       member.declarations().publishedInteractions.add(interaction);
-      member.federation().update();
+      member.federation().advisories().updateSending(member, interaction);
    }
 
    @Override
@@ -90,7 +92,7 @@ final class DeclarationService implements DeclarationManagement {
       Member member = _loopback.workingMember();
       Checks.interaction(member, interaction);
       member.declarations().publishedInteractions.remove(interaction);
-      member.federation().update();
+      member.federation().advisories().updateSending(member, interaction);
    }
 
    @Override
@@ -98,62 +100,56 @@ final class DeclarationService implements DeclarationManagement {
          int objectClass, Set<Integer> attributes, boolean isActive, String updateRate)
          throws RTIexception {
       Member member = _loopback.workingMember();
-      Checks.objectClass(member, objectClass, attributes);
+      Fom.ObjectClass found = Checks.objectClass(member, objectClass, attributes);
       Checks.updateRate(member, updateRate);
       for (int attribute : attributes) {
-         Interest interest = member.declarations().makeInterest(objectClass, attribute);
-         interest.isWhole = true;
-         interest.isActive = isActive;
-         interest.updateRate = updateRate;
+         member.declarations().makeInterest(objectClass, attribute)
+               .subscribe(new Interest.Subscription(isActive, updateRate));
       }
-      member.federation().update();
+      member.federation().subscribed(member, found);
    }
 
    @Override
    public void unsubscribeObjectClass(int objectClass) throws RTIexception {
       Member member = _loopback.workingMember();
-      unsubscribe(member, objectClass, Checks.objectClass(member, objectClass).attributes.keySet());
+      Fom.ObjectClass found = Checks.objectClass(member, objectClass);
+      unsubscribe(member, found, found.attributes.keySet());
    }
 
    @Override
    public void unsubscribeObjectClassAttributes(int objectClass, Set<Integer> attributes)
          throws RTIexception {
       Member member = _loopback.workingMember();
-      Checks.objectClass(member, objectClass, attributes);
-      unsubscribe(member, objectClass, attributes);
+      unsubscribe(
+            member, Checks.objectClass(member, objectClass, attributes), attributes);
    }
 
-   private static void unsubscribe(Member member, int objectClass, Set<Integer> attributes) {
-      Map<Integer, Interest> interests = member.declarations().subscribed.get(objectClass);
-      if (interests != null) {
-         interests.forEach((attribute, interest) -> {
-            interest.isWhole &= !attributes.contains(attribute);
-         });
-         member.declarations().dropEmptyInterests();
-      }
-      member.federation().update();
+   private static void unsubscribe(
+         Member member, Fom.ObjectClass objectClass, Set<Integer> attributes) {
+      member.declarations().interests(objectClass.handle).forEach((attribute, interest) -> {
+         if (attributes.contains(attribute)) {
+            interest.unsubscribe();
+         }
+      });
+      member.declarations().dropEmptyInterests();
+      member.federation().subscribed(member, objectClass);
    }
 
    @Override
    public void subscribeInteractionClass(int interaction, boolean isActive) throws RTIexception {
       Member member = _loopback.workingMember();
-      Checks.interaction(member, interaction);
-      Interest interest = member.declarations().subscribedInteractions.computeIfAbsent(
-            interaction, none -> new Interest());
-      interest.isWhole = true;
-      interest.isActive = isActive;
-      member.federation().update();
+      Fom.InteractionClass found = Checks.interaction(member, interaction);
+      member.declarations().makeInterest(interaction)
+            .subscribe(new Interest.Subscription(isActive, ""));
+      member.federation().advisories().subscribed(found);
    }
 
    @Override
    public void unsubscribeInteractionClass(int interaction) throws RTIexception {
       Member member = _loopback.workingMember();
-      Checks.interaction(member, interaction);
-      Interest interest = member.declarations().subscribedInteractions.get(interaction);
-      if (interest != null) {
-         interest.isWhole = false;
-         member.declarations().dropEmptyInterests();
-      }
-      member.federation().update();
+      Fom.InteractionClass found = Checks.interaction(member, interaction);
+      member.declarations().makeInterest(interaction).unsubscribe();
+      member.declarations().dropEmptyInterests();
+      member.federation().advisories().subscribed(found);
    }
 }

@@ -1,14 +1,19 @@
 // What one member publishes and subscribes, and the advisories that it was last given on that.
 package skerry.tarn1516e.standin;
 
-import java.util.Collection;
+import java.io.Serializable;
+import java.util.ArrayList;
+import java.util.Collections;
 import java.util.HashMap;
 import java.util.HashSet;
+import java.util.List;
 import java.util.Map;
 import java.util.Set;
 import java.util.TreeMap;
 
-final class Declarations {
+final class Declarations implements Serializable {
+   private static final long serialVersionUID = 1L;
+
    /** Attributes by class. */
    final Map<Integer, Set<Integer>> published = new HashMap<>();
    final Set<Integer> publishedInteractions = new HashSet<>();
@@ -30,6 +35,11 @@ final class Declarations {
             && published.get(objectClass).contains(attribute);
    }
 
+   /** By attribute; empty if the member has not subscribed to the class. */
+   Map<Integer, Interest> interests(int objectClass) {
+      return subscribed.getOrDefault(objectClass, Collections.emptyMap());
+   }
+
    int order(Fom.InteractionClass interaction) {
       return interactionOrders.getOrDefault(interaction.handle, interaction.order);
    }
@@ -39,10 +49,14 @@ final class Declarations {
             interaction.handle, interaction.transportation);
    }
 
-   /** The interest, made if there is none yet. */
+   /** Made if there is none yet. */
    Interest makeInterest(int objectClass, int attribute) {
       return subscribed.computeIfAbsent(objectClass, none -> new TreeMap<>())
             .computeIfAbsent(attribute, none -> new Interest());
+   }
+
+   Interest makeInterest(int interaction) {
+      return subscribedInteractions.computeIfAbsent(interaction, none -> new Interest());
    }
 
    void dropEmptyInterests() {
@@ -72,16 +86,19 @@ final class Declarations {
       return null;
    }
 
-   boolean usesRegion(Region region) {
-      for (Map<Integer, Interest> interests : subscribed.values()) {
-         if (anyUses(interests.values(), region)) {
-            return true;
+   /** The object classes with a subscription over the region. */
+   List<Integer> subscribedOver(Region region) {
+      List<Integer> found = new ArrayList<>();
+      subscribed.forEach((objectClass, interests) -> {
+         if (interests.values().stream().anyMatch(each -> each.uses(region))) {
+            found.add(objectClass);
          }
-      }
-      return anyUses(subscribedInteractions.values(), region);
+      });
+      return found;
    }
 
-   private static boolean anyUses(Collection<Interest> interests, Region region) {
-      return interests.stream().anyMatch(interest -> interest.regions.contains(region));
+   boolean usesRegion(Region region) {
+      return !subscribedOver(region).isEmpty()
+            || subscribedInteractions.values().stream().anyMatch(each -> each.uses(region));
    }
 }

@@ -4,8 +4,11 @@ package skerry.tarn1516e.standin;
 import hla.rti1516e.exceptions.RTIexception;
 import java.util.ArrayList;
 import java.util.Collection;
+import java.util.Collections;
+import java.util.HashMap;
 import java.util.HashSet;
 import java.util.LinkedHashMap;
+import java.util.LinkedHashSet;
 import java.util.List;
 import java.util.Map;
 import java.util.Set;
@@ -21,14 +24,21 @@ final class Federation {
    private final Clock _clock = new Clock(this);
    private final Discovery _discovery = new Discovery(this);
    private final Advisories _advisories = new Advisories(this);
+   private final InstanceAdvisories _instanceAdvisories = new InstanceAdvisories(this);
    private final SaveRestore _saveRestore = new SaveRestore(this);
 
    final Map<String, SyncPoint> syncPoints = new LinkedHashMap<>();
    final Map<Integer, ObjectInstance> instances = new LinkedHashMap<>();
    final Map<Integer, Region> regions = new LinkedHashMap<>();
 
+   private final Map<String, ObjectInstance> _instancesByName = new HashMap<>();
+   private final Map<Integer, Set<ObjectInstance>> _instancesByClass = new HashMap<>();
+
    /** Names of instances and names that are reserved for one. */
    final Set<String> takenNames = new HashSet<>();
+
+   /** Whether whoever discovers an instance gets its values without asking. */
+   boolean isAutoProviding;
 
    private int _lastMember;
    private int _lastInstance;
@@ -150,33 +160,92 @@ final class Federation {
       member.time().forgetMessages();
       takenNames.removeAll(member.reservedNames);
       regions.values().removeIf(region -> region.creator == member);
-      instances.values().forEach(instance -> instance.knownAs.remove(member));
-      forgetDeleted();
+      for (ObjectInstance instance : new ArrayList<>(instances.values())) {
+         instance.forgetBy(member);
+         forgetIfGone(instance);
+         _instanceAdvisories.update(instance);
+      }
       syncPoints.values().forEach(point -> point.remove(member));
       finishSyncPoints();
       _saveRestore.remove(member);
-      _advisories.update();
+      members().forEach(_advisories::update);
       _clock.update();
    }
 
-   /** Forgets the deleted instances that no member knows any more. */
-   void forgetDeleted() {
-      instances.values().removeIf(instance -> {
-         boolean isGone = instance.isDeleted && instance.knownAs.isEmpty();
-         if (isGone) {
-            takenNames.remove(instance.name);
-         }
-         return isGone;
-      });
+   void add(ObjectInstance instance) {
+      takenNames.add(instance.name);
+      instances.put(instance.handle, instance);
+      _instancesByName.put(instance.name, instance);
+      _instancesByClass.computeIfAbsent(instance.objectClass, none -> new LinkedHashSet<>())
+            .add(instance);
+   }
+
+   /** A deleted instance is forgotten when no member knows it any more. */
+   void forgetIfGone(ObjectInstance instance) {
+      if (instance.isDeleted && instance.knownAs.isEmpty()) {
+         takenNames.remove(instance.name);
+         instances.remove(instance.handle);
+         _instancesByName.remove(instance.name);
+         _instancesByClass.get(instance.objectClass).remove(instance);
+      }
+   }
+
+   ObjectInstance instanceNamed(String name) {
+      return _instancesByName.get(name);
+   }
+
+   /** Those of the class and of the classes below. */
+   List<ObjectInstance> instancesOf(Fom.ObjectClass objectClass) {
+      List<ObjectInstance> found = new ArrayList<>(
+            _instancesByClass.getOrDefault(objectClass.handle, Collections.emptySet()));
+      objectClass.children.forEach(child -> found.addAll(instancesOf(child)));
+      return found;
    }
 
    void finishSyncPoints() {
       syncPoints.values().removeIf(SyncPoint::finishIfReached);
    }
 
-   /** What follows from a change of declarations, regions, instances or owners. */
-   void update() {
-      _discovery.discoverAll();
-      _advisories.update();
+   // What follows from a change, for those whom it concerns.
+
+   /** The instance is new, or its owners or its regions are. */
+   void changed(ObjectInstance instance) {
+      _discovery.discover(instance);
+      _instanceAdvisories.update(instance);
+   }
+
+   void subscribed(Member member, Fom.ObjectClass objectClass) {
+      _advisories.subscribed(objectClass);
+      for (ObjectInstance instance : instancesOf(objectClass)) {
+         _discovery.discover(instance, member);
+         _instanceAdvisories.subscribed(instance, member);
+      }
+   }
+
+   void published(Member member, Fom.ObjectClass objectClass) {
+      _advisories.updateRegistration(member, objectClass.handle);
+      for (ObjectInstance instance : instancesOf(objectClass)) {
+         if (instance.isKnownAs(member, objectClass.handle)) {
+            Ownership.askToAssume(instance, member);
+         }
+      }
+   }
+
+   void switchedOn(Member member, Member.Advisory advisory) {
+      _advisories.update(member);
+      for (ObjectInstance instance : instances.values()) {
+         if (advisory == Member.Advisory.ATTRIBUTE_SCOPE) {
+            _instanceAdvisories.updateScope(instance, member);
+         } else if (advisory == Member.Advisory.ATTRIBUTE_RELEVANCE) {
+            _instanceAdvisories.updateRelevance(instance, member);
+         }
+      }
+   }
+
+   void moved(Region region) {
+      region.associated.removeIf(instance -> !instance.uses(region));
+      region.associated.forEach(this::changed);
+      region.creator.declarations().subscribedOver(region)
+            .forEach(each -> subscribed(region.creator, _fom.objectClasses.get(each)));
    }
 }

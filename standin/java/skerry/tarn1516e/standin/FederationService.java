@@ -93,6 +93,7 @@ final class FederationService implements FederationManagement {
       }
       Federation created = new Federation(name, timeName);
       created.addModules(opened);
+      created.isAutoProviding = created.fom().isSwitchedOn("autoProvide", false);
       Federation.ALL.put(name, created);
    }
 

@@ -1,33 +1,94 @@
-// A subscription to one attribute of a class or to an interaction class: over the whole space, over
-// regions, or both.
+// The subscriptions of one member to one attribute of a class or to an interaction class: one over the
+// whole space, and one over each region. Each has an activity and a rate of its own.
 package skerry.tarn1516e.standin;
 
-import java.util.HashSet;
+import java.io.Serializable;
+import java.util.ArrayList;
+import java.util.Collection;
+import java.util.LinkedHashMap;
+import java.util.List;
+import java.util.Map;
 import java.util.Set;
 
-final class Interest {
-   boolean isWhole;
-   boolean isActive;
-   String updateRate = "";
-   final Set<Region> regions = new HashSet<>();
+final class Interest implements Serializable {
+   private static final long serialVersionUID = 1L;
 
-   boolean isEmpty() {
-      return !isWhole && regions.isEmpty();
+   static final class Subscription implements Serializable {
+      private static final long serialVersionUID = 1L;
+
+      final boolean isActive;
+
+      /** A designator; empty for all updates. */
+      final String updateRate;
+
+      Subscription(boolean isActive, String updateRate) {
+         this.isActive = isActive;
+         this.updateRate = updateRate;
+      }
    }
 
-   /** Whether it meets what is sent over these regions, or over the whole space if there are
+   /** Null if there is none. */
+   private Subscription _whole;
+   private final Map<Region, Subscription> _overRegions = new LinkedHashMap<>();
+
+   void subscribe(Subscription over) {
+      _whole = over;
+   }
+
+   void subscribe(Subscription over, Collection<Region> regions) {
+      regions.forEach(region -> _overRegions.put(region, over));
+   }
+
+   void unsubscribe() {
+      _whole = null;
+   }
+
+   void unsubscribe(Collection<Region> regions) {
+      _overRegions.keySet().removeAll(regions);
+   }
+
+   boolean isEmpty() {
+      return _whole == null && _overRegions.isEmpty();
+   }
+
+   boolean isActive() {
+      return all().stream().anyMatch(each -> each.isActive);
+   }
+
+   boolean uses(Region region) {
+      return _overRegions.containsKey(region);
+   }
+
+   List<Subscription> all() {
+      List<Subscription> all = new ArrayList<>(_overRegions.values());
+      if (_whole != null) {
+         all.add(_whole);
+      }
+      return all;
+   }
+
+   /** Whether one meets what is sent over these regions, or over the whole space if there are
        none. */
    boolean meets(Set<Region> sentOver) {
-      if (isWhole || sentOver.isEmpty()) {
-         return true;
+      if (_whole != null || sentOver.isEmpty()) {
+         return !isEmpty();
       }
-      for (Region region : regions) {
-         for (Region sent : sentOver) {
-            if (region.overlaps(sent)) {
-               return true;
-            }
+      return _overRegions.keySet().stream().anyMatch(region -> region.overlapsAny(sentOver));
+   }
+
+   List<Subscription> meeting(Set<Region> sentOver) {
+      if (sentOver.isEmpty()) {
+         return all();
+      }
+      List<Subscription> meeting = new ArrayList<>();
+      if (_whole != null) {
+         meeting.add(_whole);
+      }
+      _overRegions.forEach((region, subscription) -> {
+         if (region.overlapsAny(sentOver)) {
+            meeting.add(subscription);
          }
-      }
-      return false;
+      });
+      return meeting;
    }
 }

@@ -19,12 +19,15 @@ final class Member {
    private final Federation _federation;
    private final CallbackQueue _callbacks;
    private final Declarations _declarations = new Declarations();
-   private final InstanceAdvisories _instanceAdvisories;
    private final TimeState _time;
 
    final Set<Advisory> advisories = EnumSet.noneOf(Advisory.class);
    final Set<String> reservedNames = new HashSet<>();
    int resignDirective;
+
+   /** Whether messages tell the member who sent them, and over which regions. */
+   boolean isToldProducer;
+   boolean isToldRegions;
 
    Member(int handle, String name, String type, Federation federation, CallbackQueue callbacks) {
       _handle = handle;
@@ -32,13 +35,18 @@ final class Member {
       _type = type;
       _federation = federation;
       _callbacks = callbacks;
-      _instanceAdvisories = new InstanceAdvisories(this);
       _time = new TimeState(this);
       resignDirective = federation.fom().automaticResignAction;
       adopt(Advisory.OBJECT_CLASS_RELEVANCE, "objectClassRelevanceAdvisory", true);
       adopt(Advisory.INTERACTION_RELEVANCE, "interactionRelevanceAdvisory", true);
       adopt(Advisory.ATTRIBUTE_RELEVANCE, "attributeRelevanceAdvisory", false);
+      isToldProducer = isOn("conveyProducingFederate");
+      isToldRegions = isOn("conveyRegionDesignatorSets");
       adopt(Advisory.ATTRIBUTE_SCOPE, "attributeScopeAdvisory", false);
+   }
+
+   private boolean isOn(String fomSwitch) {
+      return _federation.fom().isSwitchedOn(fomSwitch, false);
    }
 
    private void adopt(Advisory advisory, String fomSwitch, boolean otherwise) {
@@ -69,10 +77,6 @@ final class Member {
 
    Declarations declarations() {
       return _declarations;
-   }
-
-   InstanceAdvisories instanceAdvisories() {
-      return _instanceAdvisories;
    }
 
    TimeState time() {

@@ -1,6 +1,7 @@
-// A registered object instance with its attributes, and who knows it as what.
+// A registered object instance with its attributes, who knows it as what, and what was told of it.
 package skerry.tarn1516e.standin;
 
+import java.io.Serializable;
 import java.util.HashMap;
 import java.util.HashSet;
 import java.util.LinkedHashMap;
@@ -9,8 +10,25 @@ import java.util.Set;
 import java.util.TreeMap;
 import java.util.TreeSet;
 
-final class ObjectInstance {
-   static final class Attribute {
+final class ObjectInstance implements Serializable {
+   private static final long serialVersionUID = 1L;
+
+   /** What an acquirer of an attribute asked for. */
+   static final class Request implements Serializable {
+      private static final long serialVersionUID = 1L;
+
+      final byte[] tag;
+      final boolean isIfAvailable;
+
+      Request(byte[] tag, boolean isIfAvailable) {
+         this.tag = tag;
+         this.isIfAvailable = isIfAvailable;
+      }
+   }
+
+   static final class Attribute implements Serializable {
+      private static final long serialVersionUID = 1L;
+
       /** Null while nobody owns it. */
       Member owner;
       int order;
@@ -19,33 +37,49 @@ final class ObjectInstance {
       /** Where its updates go; the whole space if empty. */
       final Set<Region> regions = new HashSet<>();
 
-      /** Whether the owner offers it, and waits for somebody to take it. */
+      /** Whether the owner offers it, and has been asked to confirm that it goes. */
       boolean isOffered;
+      boolean isToBeConfirmed;
+      byte[] offerTag = {};
 
-      /** Who wants it, in the order of asking, with their tags. A null tag: only if it is free. */
-      final Map<Member, byte[]> acquirers = new LinkedHashMap<>();
+      /** Who wants it, in the order of asking. */
+      final Map<Member, Request> acquirers = new LinkedHashMap<>();
 
-      private final Fom.Attribute _declared;
+      /** Who has been asked to take it since it was offered or left alone. */
+      final Set<Member> askedToAssume = new HashSet<>();
+
+      private final int _declaredOrder;
+      private final int _declaredTransportation;
 
       Attribute(Fom.Attribute declared, Member owner) {
-         _declared = declared;
+         _declaredOrder = declared.order;
+         _declaredTransportation = declared.transportation;
          pass(owner);
       }
 
       /** A new owner begins with what the object model says. */
       void pass(Member to) {
          owner = to;
-         isOffered = false;
          acquirers.remove(to);
          regions.clear();
-         order = _declared.order;
-         transportation = _declared.transportation;
+         order = _declaredOrder;
+         transportation = _declaredTransportation;
+         endOffer();
+      }
+
+      void endOffer() {
+         isOffered = false;
+         isToBeConfirmed = false;
+         offerTag = new byte[0];
+         askedToAssume.clear();
       }
    }
 
    final int handle;
    final String name;
    final int objectClass;
+
+   /** A federate handle; 0 for the RTI itself. */
    final int producer;
    final Map<Integer, Attribute> attributes = new TreeMap<>();
 
@@ -54,6 +88,11 @@ final class ObjectInstance {
 
    /** The class as which each member knows it. */
    final Map<Member, Integer> knownAs = new HashMap<>();
+
+   /** What each member was last told to be in its scope, and which of its attributes to be wanted
+       with which rate. */
+   final Map<Member, Set<Integer>> toldInScope = new HashMap<>();
+   final Map<Member, Map<Integer, String>> toldWanted = new HashMap<>();
 
    /** The producer owns what it publishes and, always, the privilege to delete. */
    ObjectInstance(int handle, String name, Fom.ObjectClass objectClass, Member producer) {
@@ -67,6 +106,20 @@ final class ObjectInstance {
          attributes.put(declared.handle, new Attribute(declared, isOwned ? producer : null));
       }
       knownAs.put(producer, objectClass.handle);
+   }
+
+   boolean isKnownTo(Member member) {
+      return knownAs.containsKey(member);
+   }
+
+   boolean isKnownAs(Member member, int knownClass) {
+      return knownAs.getOrDefault(member, 0) == knownClass;
+   }
+
+   void forgetBy(Member member) {
+      knownAs.remove(member);
+      toldInScope.remove(member);
+      toldWanted.remove(member);
    }
 
    boolean isOwned(int attribute, Member member) {
@@ -94,19 +147,19 @@ final class ObjectInstance {
       return wanted;
    }
 
+   boolean uses(Region region) {
+      return attributes.values().stream().anyMatch(each -> each.regions.contains(region));
+   }
+
    /** What the member, who knows the instance, gets of its attributes: subscribed there, owned by
        somebody else, and with regions that meet. */
    Set<Integer> inScope(Member member) {
       Set<Integer> found = new TreeSet<>();
-      Map<Integer, Interest> interests =
-            member.declarations().subscribed.get(knownAs.get(member));
-      if (interests != null) {
-         interests.forEach((attribute, interest) -> {
-            if (reaches(attribute, member, interest)) {
-               found.add(attribute);
-            }
-         });
-      }
+      member.declarations().interests(knownAs.get(member)).forEach((attribute, interest) -> {
+         if (reaches(attribute, member, interest)) {
+            found.add(attribute);
+         }
+      });
       return found;
    }
 

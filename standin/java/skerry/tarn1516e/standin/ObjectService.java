@@ -86,7 +86,7 @@ final class ObjectService implements ObjectManagement {
    private static ObjectInstance register(Member member, int objectClass, String name)
          throws RTIexception {
       ObjectInstance made = make(member, objectClass, name);
-      member.federation().update();
+      member.federation().changed(made);
       return made;
    }
 
@@ -99,7 +99,7 @@ final class ObjectService implements ObjectManagement {
       }
       Federation federation = member.federation();
       if (name != null && !member.reservedNames.remove(name)) {
-         if (federation.instances.values().stream().anyMatch(each -> each.name.equals(name))) {
+         if (federation.instanceNamed(name) != null) {
             throw new ObjectInstanceNameInUse("an instance has the name " + name);
          }
          throw new ObjectInstanceNameNotReserved("the federate has not reserved " + name);
@@ -107,8 +107,7 @@ final class ObjectService implements ObjectManagement {
       int handle = federation.nextInstanceHandle();
       ObjectInstance made = new ObjectInstance(
             handle, name != null ? name : "HLAinstance" + handle, found, member);
-      federation.takenNames.add(made.name);
-      federation.instances.put(handle, made);
+      federation.add(made);
       return made;
    }
 
@@ -184,7 +183,6 @@ final class ObjectService implements ObjectManagement {
    static byte[] delete(Member member, ObjectInstance instance, byte[] tag, LogicalTime time) {
       Traffic traffic = new Traffic(member, time);
       traffic.remove(instance, tag);
-      member.federation().advisories().update();
       return traffic.retractionHandle();
    }
 
@@ -198,8 +196,8 @@ final class ObjectService implements ObjectManagement {
       if (!instance.acquiredBy(member).isEmpty()) {
          throw new OwnershipAcquisitionPending("the federate is acquiring attributes");
       }
-      instance.knownAs.remove(member);
-      member.federation().forgetDeleted();
+      instance.forgetBy(member);
+      member.federation().forgetIfGone(instance);
    }
 
    @Override
@@ -215,10 +213,8 @@ final class ObjectService implements ObjectManagement {
       Member member = _loopback.workingMember();
       Fom.ObjectClass wanted = Checks.objectClass(member, objectClass, attributes);
       Federation federation = member.federation();
-      for (ObjectInstance instance : federation.instances.values()) {
-         if (federation.fom().objectClasses.get(instance.objectClass).isOrDescendsFrom(wanted)) {
-            requestUpdate(member, instance, attributes, tag);
-         }
+      for (ObjectInstance instance : federation.instancesOf(wanted)) {
+         requestUpdate(member, instance, attributes, tag);
       }
    }
 

@@ -1,7 +1,11 @@
 // The part of a dimension from a lower bound up to, not including, an upper bound.
 package skerry.tarn1516e.standin;
 
-public final class Range {
+import java.io.Serializable;
+
+public final class Range implements Serializable {
+   private static final long serialVersionUID = 1L;
+
    final long lower;
    final long upper;
 

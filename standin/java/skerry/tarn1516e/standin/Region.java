@@ -1,16 +1,24 @@
 // A region: a range in each of its dimensions. Changed ranges take effect when they are committed.
 package skerry.tarn1516e.standin;
 
+import java.io.Serializable;
+import java.util.Collection;
 import java.util.HashMap;
+import java.util.HashSet;
 import java.util.Map;
 import java.util.Set;
 
-final class Region {
+final class Region implements Serializable {
+   private static final long serialVersionUID = 1L;
+
    final int handle;
    final Member creator;
 
    /** By dimension. */
    final Map<Integer, Range> ranges = new HashMap<>();
+
+   /** The instances whose updates go, or once went, over the region. */
+   final Set<ObjectInstance> associated = new HashSet<>();
 
    private final Map<Integer, Range> _committed = new HashMap<>();
 
@@ -28,8 +36,12 @@ final class Region {
       _committed.putAll(ranges);
    }
 
+   boolean overlapsAny(Collection<Region> others) {
+      return others.stream().anyMatch(this::overlaps);
+   }
+
    /** Dimensions that only one of the two has do not count. */
-   boolean overlaps(Region other) {
+   private boolean overlaps(Region other) {
       for (Map.Entry<Integer, Range> range : _committed.entrySet()) {
          Range met = other._committed.get(range.getKey());
          if (met != null && !met.overlaps(range.getValue())) {

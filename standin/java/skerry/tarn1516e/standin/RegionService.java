@@ -29,24 +29,20 @@ final class RegionService implements DataDistributionManagement {
    @Override
    public void commitRegionModifications(Set<Integer> regions) throws RTIexception {
       Member member = _loopback.workingMember();
-      Checks.ownRegions(member, regions).forEach(Region::commit);
-      member.federation().update();
+      for (Region region : Checks.ownRegions(member, regions)) {
+         region.commit();
+         member.federation().moved(region);
+      }
    }
 
    @Override
    public void deleteRegion(int handle) throws RTIexception {
       Member member = _loopback.workingMember();
       Region region = Checks.ownRegion(member, handle);
-      if (member.declarations().usesRegion(region) || isForUpdates(member, region)) {
+      if (member.declarations().usesRegion(region) || region.associated.stream().anyMatch(each -> each.uses(region))) {
          throw new RegionInUseForUpdateOrSubscription("the region " + handle + " is in use");
       }
       member.federation().regions.remove(handle);
-   }
-
-   private static boolean isForUpdates(Member member, Region region) {
-      return member.federation().instances.values().stream().anyMatch(
-            instance -> instance.attributes.values().stream().anyMatch(
-                  attribute -> attribute.regions.contains(region)));
    }
 
    @Override
@@ -75,7 +71,7 @@ final class RegionService implements DataDistributionManagement {
       }
       ObjectInstance instance = ObjectService.make(member, objectClass, name);
       associate(member, instance, pairs);
-      member.federation().update();
+      member.federation().changed(instance);
       return instance.handle;
    }
 
@@ -83,9 +79,12 @@ final class RegionService implements DataDistributionManagement {
          Member member, ObjectInstance instance, List<AttributeRegions> pairs)
          throws RTIexception {
       for (AttributeRegions pair : pairs) {
+         Set<Region> regions = Checks.ownRegions(member, pair.regions);
+         regions.forEach(region -> region.associated.add(instance));
          for (int attribute : pair.attributes) {
-            instance.attributes.get(attribute).regions.addAll(
-                  Checks.ownRegions(member, pair.regions));
+            if (instance.isOwned(attribute, member)) {
+               instance.attributes.get(attribute).regions.addAll(regions);
+            }
          }
       }
    }
@@ -99,7 +98,7 @@ final class RegionService implements DataDistributionManagement {
       Checks.context(
             member, member.federation().fom().objectClasses.get(instance.objectClass), pairs);
       associate(member, instance, pairs);
-      member.federation().update();
+      member.federation().changed(instance);
    }
 
    @Override
@@ -113,7 +112,7 @@ final class RegionService implements DataDistributionManagement {
             instance.attributes.get(attribute).regions.removeAll(regions);
          }
       }
-      member.federation().update();
+      member.federation().changed(instance);
    }
 
    /** A pair without regions subscribes over the whole space. */
@@ -126,45 +125,45 @@ final class RegionService implements DataDistributionManagement {
             Checks.objectClass(member, objectClass, Checks.attributesOf(pairs));
       Checks.updateRate(member, updateRate);
       Checks.context(member, found, pairs);
+      Interest.Subscription made = new Interest.Subscription(isActive, updateRate);
       for (AttributeRegions pair : pairs) {
+         Set<Region> regions = Checks.ownRegions(member, pair.regions);
          for (int attribute : pair.attributes) {
             Interest interest = member.declarations().makeInterest(objectClass, attribute);
-            interest.isWhole |= pair.regions.isEmpty();
-            interest.isActive = isActive;
-            interest.updateRate = updateRate;
-            interest.regions.addAll(Checks.ownRegions(member, pair.regions));
+            if (regions.isEmpty()) {
+               interest.subscribe(made);
+            }
+            interest.subscribe(made, regions);
          }
       }
-      member.federation().update();
+      member.federation().subscribed(member, found);
    }
 
    @Override
    public void unsubscribeObjectClassAttributesWithRegions(
          int objectClass, List<AttributeRegions> pairs) throws RTIexception {
       Member member = _loopback.workingMember();
-      Checks.objectClass(member, objectClass, Checks.attributesOf(pairs));
+      Fom.ObjectClass found =
+            Checks.objectClass(member, objectClass, Checks.attributesOf(pairs));
       for (AttributeRegions pair : pairs) {
          Set<Region> regions = Checks.ownRegions(member, pair.regions);
          for (int attribute : pair.attributes) {
-            member.declarations().makeInterest(objectClass, attribute).regions.removeAll(regions);
+            member.declarations().makeInterest(objectClass, attribute).unsubscribe(regions);
          }
       }
       member.declarations().dropEmptyInterests();
-      member.federation().update();
+      member.federation().subscribed(member, found);
    }
 
    @Override
    public void subscribeInteractionClassWithRegions(
          int interaction, boolean isActive, Set<Integer> handles) throws RTIexception {
       Member member = _loopback.workingMember();
-      Set<Region> regions = checkRegions(
-            member, Checks.interaction(member, interaction), handles);
-      Interest interest = member.declarations().subscribedInteractions.computeIfAbsent(
-            interaction, none -> new Interest());
-      interest.isActive = isActive;
-      interest.regions.addAll(regions);
+      Fom.InteractionClass found = Checks.interaction(member, interaction);
+      member.declarations().makeInterest(interaction).subscribe(
+            new Interest.Subscription(isActive, ""), checkRegions(member, found, handles));
       member.declarations().dropEmptyInterests();
-      member.federation().update();
+      member.federation().advisories().subscribed(found);
    }
 
    private static Set<Region> checkRegions(
@@ -179,14 +178,11 @@ final class RegionService implements DataDistributionManagement {
    public void unsubscribeInteractionClassWithRegions(int interaction, Set<Integer> handles)
          throws RTIexception {
       Member member = _loopback.workingMember();
-      Checks.interaction(member, interaction);
-      Set<Region> regions = Checks.ownRegions(member, handles);
-      Interest interest = member.declarations().subscribedInteractions.get(interaction);
-      if (interest != null) {
-         interest.regions.removeAll(regions);
-         member.declarations().dropEmptyInterests();
-      }
-      member.federation().update();
+      Fom.InteractionClass found = Checks.interaction(member, interaction);
+      member.declarations().makeInterest(interaction)
+            .unsubscribe(Checks.ownRegions(member, handles));
+      member.declarations().dropEmptyInterests();
+      member.federation().advisories().subscribed(found);
    }
 
    @Override
@@ -221,16 +217,15 @@ final class RegionService implements DataDistributionManagement {
       Federation federation = member.federation();
       for (AttributeRegions pair : pairs) {
          Interest interest = new Interest();
-         interest.isWhole = pair.regions.isEmpty();
-         interest.regions.addAll(Checks.ownRegions(member, pair.regions));
-         for (ObjectInstance instance : federation.instances.values()) {
-            if (federation.fom().objectClasses.get(instance.objectClass)
-                        .isOrDescendsFrom(wanted)) {
-               Set<Integer> reached = new TreeSet<>(pair.attributes);
-               reached.removeIf(
-                     attribute -> !instance.reaches(attribute, member, interest));
-               ObjectService.requestUpdate(member, instance, reached, tag);
-            }
+         Interest.Subscription asked = new Interest.Subscription(true, "");
+         interest.subscribe(asked, Checks.ownRegions(member, pair.regions));
+         if (pair.regions.isEmpty()) {
+            interest.subscribe(asked);
+         }
+         for (ObjectInstance instance : federation.instancesOf(wanted)) {
+            Set<Integer> reached = new TreeSet<>(pair.attributes);
+            reached.removeIf(attribute -> !instance.reaches(attribute, member, interest));
+            ObjectService.requestUpdate(member, instance, reached, tag);
          }
       }
    }

@@ -66,7 +66,8 @@ final class Resignation {
          if (deletes(action) && instance.isOwned(privilege, _member)) {
             ObjectService.delete(_member, instance, new byte[0], null);
          } else if (!instance.ownedBy(_member).isEmpty()) {
-            OwnershipService.release(instance, instance.ownedBy(_member), _member);
+            Ownership.release(instance, instance.ownedBy(_member), federation);
+            federation.changed(instance);
          }
       }
    }

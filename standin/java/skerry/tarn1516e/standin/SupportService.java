@@ -92,12 +92,11 @@ final class SupportService implements SupportServices {
    @Override
    public int getObjectInstanceHandle(String name) throws RTIexception {
       Member member = _loopback.member();
-      for (ObjectInstance instance : member.federation().instances.values()) {
-         if (instance.name.equals(name) && instance.knownAs.containsKey(member)) {
-            return instance.handle;
-         }
+      ObjectInstance found = member.federation().instanceNamed(name);
+      if (found == null || !found.isKnownTo(member)) {
+         throw new ObjectInstanceNotKnown("no instance known has the name " + name);
       }
-      throw new ObjectInstanceNotKnown("no instance known has the name " + name);
+      return found.handle;
    }
 
    @Override
@@ -140,16 +139,23 @@ final class SupportService implements SupportServices {
       return rate;
    }
 
-   /** The rate with which the federate has subscribed to the attribute; 0 if with none. */
+   /** The greatest rate with which the federate has subscribed to the attribute; 0 if it wants all
+       updates or none. */
    @Override
    public double getUpdateRateValueForAttribute(int object, int attribute) throws RTIexception {
       Member member = _loopback.member();
       ObjectInstance instance =
             Checks.instance(member, object, Collections.singleton(attribute));
-      Interest interest = member.declarations().subscribed
-            .getOrDefault(instance.knownAs.get(member), Collections.emptyMap())
-            .get(attribute);
-      return interest == null ? 0 : fom().updateRates.getOrDefault(interest.updateRate, 0.0);
+      Interest interest =
+            member.declarations().interests(instance.knownAs.get(member)).get(attribute);
+      double greatest = 0;
+      for (Interest.Subscription each : (interest == null ? new Interest() : interest).all()) {
+         if (each.updateRate.isEmpty()) {
+            return 0;
+         }
+         greatest = Math.max(greatest, fom().updateRates.get(each.updateRate));
+      }
+      return greatest;
    }
 
    @Override
@@ -374,7 +380,7 @@ final class SupportService implements SupportServices {
       if (!member.advisories.add(advisory)) {
          throw fault.make();
       }
-      member.federation().advisories().update();
+      member.federation().switchedOn(member, advisory);
    }
 
    private void switchOff(Member.Advisory advisory, Fault fault) throws RTIexception {

@@ -84,7 +84,7 @@ final class Traffic {
          byte[] tag) {
       Map<Member, Map<Integer, byte[]>> received = new LinkedHashMap<>();
       for (Member member : _federation.members()) {
-         if (member != _sender && instance.knownAs.containsKey(member)) {
+         if (member != _sender && instance.isKnownTo(member)) {
             Map<Integer, byte[]> reaching = new TreeMap<>(values);
             reaching.keySet().retainAll(instance.inScope(member));
             if (!reaching.isEmpty()) {
@@ -92,11 +92,11 @@ final class Traffic {
             }
          }
       }
-      Supplement info = supplement(passage.regions);
       send(passage.order, received.keySet(), (receiver, message, receivedOrder) -> {
          if (instance.knownAs.containsKey(receiver)) {
             reflect(receiver.callbacks(), message, receivedOrder, instance.handle,
-                  received.get(receiver), tag, passage.transportation, info);
+                  received.get(receiver), tag, passage.transportation,
+                  supplement(receiver, passage.regions));
          }
       });
    }
@@ -127,14 +127,13 @@ final class Traffic {
          }
       }
       int transportation = _sender.declarations().transportation(interaction);
-      Supplement info = supplement(regions);
       send(_sender.declarations().order(interaction), received.keySet(),
             (receiver, message, receivedOrder) -> {
                Fom.InteractionClass as = received.get(receiver);
                Map<Integer, byte[]> known = new TreeMap<>(values);
                known.keySet().retainAll(as.parameters.keySet());
                receive(receiver.callbacks(), message, receivedOrder, as.handle, known, tag,
-                     transportation, info);
+                     transportation, supplement(receiver, regions));
             });
    }
 
@@ -160,22 +159,22 @@ final class Traffic {
       int knownAs = instance.knownAs.remove(_sender);
       instance.isDeleted = true;
       owned.forEach(attribute -> instance.attributes.get(attribute).owner = null);
-      Supplement info = supplement(Collections.emptySet());
       Message sent = send(order, new LinkedHashSet<>(instance.knownAs.keySet()),
             (receiver, message, receivedOrder) -> {
-               if (instance.knownAs.remove(receiver) != null) {
-                  removed(receiver.callbacks(), message, receivedOrder, instance.handle, tag, info);
-                  forget(instance);
+               if (instance.isKnownTo(receiver)) {
+                  instance.forgetBy(receiver);
+                  removed(receiver.callbacks(), message, receivedOrder, instance.handle, tag,
+                        supplement(receiver, Collections.emptySet()));
+                  _federation.forgetIfGone(instance);
                }
             });
       sent.undo = () -> {
          instance.isDeleted = false;
          instance.knownAs.put(_sender, knownAs);
          owned.forEach(attribute -> instance.attributes.get(attribute).owner = _sender);
-         _federation.instances.put(instance.handle, instance);
-         _federation.takenNames.add(instance.name);
+         _federation.add(instance);
       };
-      forget(instance);
+      _federation.forgetIfGone(instance);
    }
 
    private static void removed(CallbackQueue callbacks, Message message, int receivedOrder,
@@ -188,13 +187,6 @@ final class Traffic {
       } else {
          callbacks.removeObjectInstance(instance, tag, message.sentOrder, message.time.encode(),
                receivedOrder, message.retraction, info);
-      }
-   }
-
-   private void forget(ObjectInstance instance) {
-      if (instance.isDeleted && instance.knownAs.isEmpty()) {
-         _federation.instances.remove(instance.handle);
-         _federation.takenNames.remove(instance.name);
       }
    }
 
@@ -216,16 +208,14 @@ final class Traffic {
       return message;
    }
 
-   private Supplement supplement(Set<Region> regions) {
-      Fom fom = _federation.fom();
+   private Supplement supplement(Member receiver, Set<Region> regions) {
       Set<Integer> handles = null;
-      if (!regions.isEmpty() && fom.isSwitchedOn("conveyRegionDesignatorSets", false)) {
+      if (!regions.isEmpty() && receiver.isToldRegions) {
          handles = new TreeSet<>();
          for (Region region : regions) {
             handles.add(region.handle);
          }
       }
-      return new Supplement(
-            fom.isSwitchedOn("conveyProducingFederate", false) ? _sender.handle() : 0, handles);
+      return new Supplement(receiver.isToldProducer ? _sender.handle() : 0, handles);
    }
 }

@@ -2,7 +2,9 @@
 // callbacks compared as text. Takes the folder of the object models; ends with 1 at the first difference.
 package skerry.tarn1516e.standin;
 
+import com.sun.management.ThreadMXBean;
 import hla.rti1516e.exceptions.*;
+import java.lang.management.ManagementFactory;
 import java.nio.file.Files;
 import java.nio.file.Path;
 import java.nio.file.Paths;
@@ -53,6 +55,7 @@ public final class LoopbackTrials {
       ownershipScenes();
       regionScenes();
       federationScenes();
+      TRIALS.put("cost", LoopbackTrials::cost);
       TRIALS.put("lost connection", LoopbackTrials::lostConnection);
       TRIALS.put("immediate callbacks", LoopbackTrials::immediateCallbacks);
       for (Map.Entry<String, Trick> trial : TRIALS.entrySet()) {
@@ -154,8 +157,19 @@ public final class LoopbackTrials {
             "Power = a getAttributeHandle Tug Power", "c getAttributeName Tug Power ? Power",
             "c getObjectClassHandle HLAobjectRoot.Ship ? Ship",
             "a getTransportationTypeHandle Pigeon ? 3", "a getTransportationTypeName 3 ? Pigeon");
+      Files.write(module, model("Tug", attribute("Draught", "")).replace("<objects>", "<switches>"
+            + "<autoProvide isEnabled='true'/><automaticResignAction resignAction='NoAction'/>"
+            + "</switches><objects>").getBytes("UTF-8"));
+      play.act("d connect", "e connect", "d createFederationExecution {F}auto MODULE -",
+            "d join {F}auto", "e join {F}auto", "Tug = d getObjectClassHandle HLAobjectRoot.Tug",
+            "Power = d getAttributeHandle Tug Draught", "d publishObjectClassAttributes Tug Power",
+            "s = d registerObjectInstance Tug", "e subscribeObjectClassAttributes Tug Power true -",
+            "e: discoverObjectInstance s Tug HLAinstance{s}",
+            "d: startRegistrationForObjectClass Tug | provideAttributeValueUpdate s [Power]",
+            "d getAutomaticResignDirective ? 5", "d resignFederationExecution 4",
+            "e resignFederationExecution 4");
       Files.delete(module);
-      play.act("d connect", "d join F MODULE ! CouldNotOpenFDD");
+      play.act("d join F MODULE ! CouldNotOpenFDD");
       fails(InconsistentFDD.class, () -> play.federates.get("d").rti.federation
             .createFederationExecution("E", Collections.emptyList(), ""));
    }
@@ -318,6 +332,46 @@ public final class LoopbackTrials {
             "a cancelNegotiatedAttributeOwnershipDivestiture s Name ! AttributeNotOwned",
             "a cancelNegotiatedAttributeOwnershipDivestiture s Position"
                   + " ! AttributeDivestitureWasNotRequested");
+      scene("contested ownership", SHARE, "b publishObjectClassAttributes Ship Name,Position",
+            "b attributeOwnershipAcquisitionIfAvailable s Name,Position",
+            "b: attributeOwnershipUnavailable s [Name, Position]", "a:",
+            "b cancelAttributeOwnershipAcquisition s Name ! AttributeAcquisitionWasNotRequested",
+            "a negotiatedAttributeOwnershipDivestiture s Name @7",
+            "b: requestAttributeOwnershipAssumption s [Name]",
+            "b attributeOwnershipAcquisitionIfAvailable s Name",
+            "b cancelAttributeOwnershipAcquisition s Name ! AttributeAcquisitionWasNotRequested",
+            "c connect", "c join F", "c publishObjectClassAttributes Ship Name,Position",
+            "c subscribeObjectClassAttributes Ship Name true -",
+            "c: startRegistrationForObjectClass Ship"
+                  + " | discoverObjectInstance s Ship HLAinstance{s} 1",
+            "c attributeOwnershipAcquisition s Name,Position @7",
+            "a: requestDivestitureConfirmation s [Name]"
+                  + " | requestAttributeOwnershipRelease s [Position]",
+            "a cancelNegotiatedAttributeOwnershipDivestiture s Name",
+            "a: requestAttributeOwnershipRelease s [Name]",
+            "b: startRegistrationForObjectClass Ship | attributeOwnershipUnavailable s [Name]",
+            "b attributeOwnershipAcquisition s Name,Position @7",
+            "a unconditionalAttributeOwnershipDivestiture s Name,Position",
+            "c: attributeOwnershipAcquisitionNotification s [Name, Position]"
+                  + " | requestAttributeOwnershipRelease s [Name, Position]",
+            "b cancelAttributeOwnershipAcquisition s Name,Position", "b unpublishObjectClass Ship",
+            "b: confirmAttributeOwnershipAcquisitionCancellation s [Name, Position]",
+            "c negotiatedAttributeOwnershipDivestiture s Name @7",
+            "c unconditionalAttributeOwnershipDivestiture s Position", "b:",
+            "b publishObjectClassAttributes Ship Name",
+            "b: startRegistrationForObjectClass Ship"
+                  + " | requestAttributeOwnershipAssumption s [Name]",
+            "b publishObjectClassAttributes Ship Position",
+            "b: requestAttributeOwnershipAssumption s [Position]");
+      // What is published counts for the class as which the federate knows the instance.
+      scene("ownership as another class", "a publishObjectClassAttributes Ship Name",
+            "Privilege = a getAttributeHandle 1 HLAprivilegeToDeleteObject",
+            "b publishObjectClassAttributes 1 Privilege",
+            "b subscribeObjectClassAttributes 1 Privilege true -",
+            "s = a registerObjectInstance Ship", "b getKnownObjectClassHandle s ? 1",
+            "b attributeOwnershipAcquisition s Privilege @7",
+            "a attributeOwnershipDivestitureIfWanted s Privilege ? [Privilege]",
+            "b unpublishObjectClass 1", "b isAttributeOwnedByFederate s Privilege ? false");
    }
 
    private static void regionScenes() {
@@ -356,7 +410,44 @@ public final class LoopbackTrials {
             "b: discoverObjectInstance s Ship HLAinstance{s} 1 | attributesInScope s [Name]",
             "b unsubscribeObjectClass Ship",
             "a: stopRegistrationForObjectClass Ship | turnUpdatesOffForObjectInstance s [Name]",
-            "b: attributesOutOfScope s [Name]");
+            "b: attributesOutOfScope s [Name]", "r = b createRegion SeaArea",
+            "b subscribeObjectClassAttributesWithRegions Ship Position:r true -",
+            "a publishObjectClassAttributes Ship Position", "q = a createRegion SeaArea",
+            "t = a registerObjectInstanceWithRegions Ship Position:q",
+            "b: discoverObjectInstance t Ship HLAinstance{t} 1 | attributesInScope t [Position]",
+            "a setRangeBounds q SeaArea 500-501", "b setRangeBounds r SeaArea 0-500",
+            "a commitRegionModifications q", "b:", "b commitRegionModifications r",
+            "b: attributesOutOfScope t [Position]");
+      // Only the owner's regions count; each subscription is active or passive by itself.
+      scene("regions of others", SHARE, "r = b createRegion SeaArea", "q = b createRegion SeaArea",
+            "b setRangeBounds r SeaArea 0-10", "b setRangeBounds q SeaArea 500-600",
+            "b commitRegionModifications q,r", "b associateRegionsForUpdates s Position:q",
+            "b unsubscribeObjectClass Ship",
+            "b subscribeObjectClassAttributesWithRegions Ship Position:r true -",
+            "b subscribeObjectClassAttributesWithRegions Ship Position:q false Slow",
+            "a: stopRegistrationForObjectClass Ship | startRegistrationForObjectClass Ship",
+            "a updateAttributeValues s Position=1 @7",
+            "b: reflectAttributeValues s [Position=1] 0 1 from 1",
+            "a enableAttributeRelevanceAdvisorySwitch",
+            "a: turnUpdatesOnForObjectInstance s [Position]");
+   }
+
+   /** What a registration allocates does not grow with the instances that are there. */
+   private static void cost(Play play) {
+      play.act(SHARE).act("a enableAttributeRelevanceAdvisorySwitch",
+            "b enableAttributeScopeAdvisorySwitch");
+      long beside = allocatedByRegistration(play);
+      for (int i = 0; i < 200; ++i) {
+         play.act("a registerObjectInstance Ship");
+      }
+      same(true, allocatedByRegistration(play) < 2 * beside);
+   }
+
+   private static long allocatedByRegistration(Play play) {
+      ThreadMXBean threads = (ThreadMXBean) ManagementFactory.getThreadMXBean();
+      long before = threads.getThreadAllocatedBytes(Thread.currentThread().getId());
+      play.act("a registerObjectInstance Ship", "b subscribeInteractionClass Signal false");
+      return threads.getThreadAllocatedBytes(Thread.currentThread().getId()) - before;
    }
 
    private static void federationScenes() {
