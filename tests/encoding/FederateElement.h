@@ -9,25 +9,25 @@ class Triple : public rti1516e::DataElement {
 public:
    explicit Triple(std::string const& three = "...") : value(three)
    {
-      ++alive;
+      ++alive();
    }
 
    Triple(Triple const& rhs) : DataElement(rhs), value(rhs.value)
    {
-      ++alive;
+      ++alive();
    }
 
    Triple& operator=(Triple const&) = default;
 
    ~Triple()
    {
-      --alive;
+      --alive();
    }
 
    std::auto_ptr<DataElement> clone() const override
    {
-      newestClone = new Triple(*this);
-      return std::auto_ptr<DataElement>(newestClone);
+      newestClone() = new Triple(*this);
+      return std::auto_ptr<DataElement>(newestClone());
    }
 
    rti1516e::VariableLengthData encode() const RTI_THROW((rti1516e::EncoderException)) override
@@ -44,16 +44,15 @@ public:
    void encodeInto(std::vector<rti1516e::Octet>& buffer) const
          RTI_THROW((rti1516e::EncoderException)) override
    {
-      while (buffer.size() % 3 != 0) {
-         buffer.push_back(0);
-      }
+      buffer.resize((buffer.size() + 2) / 3 * 3);
       buffer.insert(buffer.end(), value.begin(), value.end());
    }
 
    void decode(rti1516e::VariableLengthData const& data)
          RTI_THROW((rti1516e::EncoderException)) override
    {
-      value.assign(static_cast<char const*>(data.data()), 3);
+      char const* const bytes = static_cast<char const*>(data.data());
+      decodeFrom(std::vector<rti1516e::Octet>(bytes, bytes + data.size()), 0);
    }
 
    std::size_t decodeFrom(std::vector<rti1516e::Octet> const& buffer, std::size_t index)
@@ -76,29 +75,26 @@ public:
       return 3;
    }
 
+   static int& alive()
+   {
+      static int count = 0;
+      return count;
+   }
+
+   static Triple*& newestClone()
+   {
+      static Triple* newest = nullptr;
+      return newest;
+   }
+
    std::string value;
-   static int alive;
-   static Triple* newestClone;
 };
 
-// Tells more bytes than it writes.
-class Braggart : public Triple {
-public:
-   std::auto_ptr<DataElement> clone() const override
-   {
-      return std::auto_ptr<DataElement>(new Braggart(*this));
-   }
-
-   std::size_t getEncodedLength() const RTI_THROW((rti1516e::EncoderException)) override
-   {
-      return 100;
-   }
-};
-
-// A scalar that stands at multiples of 8 and adds 1 to what it decodes.
+// A scalar that stands at multiples of 8 and turns the lowest bit of what it decodes.
 class WideInteger : public rti1516e::HLAinteger32BE {
 public:
-   explicit WideInteger(int value = 0) : HLAinteger32BE(value) {}
+   using HLAinteger32BE::HLAinteger32BE;
+   using HLAinteger32BE::operator=;
 
    std::auto_ptr<DataElement> clone() const override
    {
@@ -109,7 +105,7 @@ public:
          RTI_THROW((rti1516e::EncoderException)) override
    {
       std::size_t const next = HLAinteger32BE::decodeFrom(buffer, index);
-      set(get() + 1);
+      set(get() ^ 1);
       return next;
    }
 

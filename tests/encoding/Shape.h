@@ -1,5 +1,5 @@
 // A second, plain implementation of the encodings, to hold the library's elements against: a tree
-// of shapes, each with its bytes, that encodes, decodes and fails as elements of its form must.
+// of shapes that encodes, decodes, fails and is changed as elements of its form must be.
 #ifndef tests_encoding_Shape_h
 #define tests_encoding_Shape_h
 
@@ -11,55 +11,55 @@
 
 struct Shape {
    enum Kind {
-      SCALAR,
-      NARROW,
-      WIDE,
+      LEAF, // a scalar, a string or a federate's own element
       OPAQUE,
       FIXED_ARRAY,
       VARIABLE_ARRAY,
       RECORD,
-      VARIANT
+      VARIANT,
+      NOTHING // a variant that there is not
    };
 
-   Kind kind;
+   Kind kind = NOTHING;
+   int leaf = 0;                 // of a leaf, the index among the classes
+   std::string content;          // of leaves and opaque data: the encoded bytes
+   std::vector<Shape> parts;     // the elements; of a variant record the discriminant, an HLAoctet,
+                                 // and the variants for 0, 1 and so on
+   std::vector<Shape> prototype; // of a variable array
+   std::size_t room = 0;         // of opaque data in the caller's memory; else 0
 
-   // Scalars: the index among the classes. Others: nothing.
-   int scalar;
-
-   // Scalars: the encoded bytes. Strings and opaque data: the bytes behind the count.
-   std::string content;
-
-   // Arrays and records: the elements. Variants: the discriminant, an HLAoctet, then the variant
-   // for each value from 0 on.
-   std::vector<Shape> parts;
-
-   // Variable arrays: what new elements are like. Others: empty.
-   std::vector<Shape> prototype;
+   // The caller's element, which the library holds by pointer. Null where it holds a clone.
+   std::shared_ptr<rti1516e::DataElement> own;
+   std::shared_ptr<void> variable; // what the leaf or the opaque data are bound to
 };
 
-typedef std::string Text; // bytes in hex, or a failure's message
+typedef std::mt19937 Random;
 
-Shape scalarShape(int scalar, std::string const& content);
-Shape stringShape(Shape::Kind kind, std::string const& content);
-Shape arrayShape(Shape const& prototype, std::vector<Shape> const& elements);
-Shape sequenceShape(Shape::Kind kind, std::vector<Shape> const& parts);
+std::size_t below(Random& random, std::size_t limit);
 
-// Index of a scalar class for scalarShape().
-int scalarNamed(std::string const& name);
+// A shape of any kind, or of the same type as the other one, with an element of its own.
+Shape randomShape(Random& random, int depth, Shape const* like = nullptr);
 
-// A shape of any kind with any values.
-Shape randomShape(std::mt19937& random, int depth);
+// Changes the shape and its own element in one of all the ways that there are for it. What the
+// element throws otherwise than the model is a failure of the test.
+void change(Shape& shape, Random& random, int depth);
+
+// The same, with own elements no more, as a clone of the library's has them.
+Shape cloned(Shape const& shape);
 
 unsigned int boundaryOf(Shape const& shape);
+std::size_t lengthOf(Shape const& shape);
 void encodeShape(Shape const& shape, std::string& buffer);
 
 // Returns the index behind the value; throws the message of the failure as a std::wstring. What is
 // decoded before a failure stays.
 std::size_t decodeShape(Shape& shape, std::string const& buffer, std::size_t index);
 
-// Elements of the library of that form and value. Those that composites hold by pointer are kept
-// in the vector: every second one if byPointer.
-typedef std::vector<std::unique_ptr<rti1516e::DataElement>> Kept;
-std::unique_ptr<rti1516e::DataElement> elementOf(Shape const& shape, bool byPointer, Kept& kept);
+// Decodes the bytes by element and by shape, and compares where they end and what they throw.
+void decodeBoth(Shape& shape, std::string const& bytes, std::size_t index);
+
+// Whether the element encodes what the shape does: behind some bytes, as a block, and in its length
+// and boundary.
+void expectSame(Shape const& shape, rti1516e::DataElement const& element);
 
 #endif
