@@ -55,44 +55,19 @@ if(NOT APPLE)
    set(PC_LIBS "-Wl,--push-state,--no-as-needed ${PC_LIBS} -Wl,--pop-state")
 endif()
 configure_file(cmake/tarn1516e.pc.in install/tarn1516e.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/install/tarn1516e.pc
+configure_file(cmake/rti1516e.pc.in install/rti1516e.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/install/tarn1516e.pc ${PROJECT_BINARY_DIR}/install/rti1516e.pc
    DESTINATION lib/pkgconfig COMPONENT development)
 
 # ---- Reading
 
-install(FILES README.md DESTINATION share/doc/tarn1516e COMPONENT documents)
+install(FILES README.md CHANGELOG.md CONTRIBUTING.md SECURITY.md
+   DESTINATION share/doc/tarn1516e COMPONENT documents)
+install(FILES standin/README.md DESTINATION share/doc/tarn1516e/standin COMPONENT documents)
 install(DIRECTORY docs DESTINATION share/doc/tarn1516e COMPONENT documents
    FILES_MATCHING PATTERN *.md PATTERN *.svg)
 install(DIRECTORY examples/ DESTINATION share/tarn1516e/examples COMPONENT documents)
 
-# ---- The Debian package, of the same rules
-
-set(CPACK_GENERATOR DEB)
-set(CPACK_PACKAGE_NAME tarn1516e)
-set(CPACK_PACKAGE_CONTACT "The librti1516e developers <librti1516e@example.org>")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "C++ interface of an IEEE 1516.1-2010 (HLA) infrastructure")
-set(CPACK_PACKAGE_DESCRIPTION "A federate links librti1516e, which forwards its services to the \
-Java classes of the run-time infrastructure and brings back their callbacks. This package has the \
-libraries, headers, documents, examples and tarn1516e-check; the Java classes are a product of \
-their own.")
-# Everything lies in one home: the library looks for the rest of it two levels above itself.
-set(CPACK_PACKAGING_INSTALL_PREFIX /opt/tarn1516e)
-set(CPACK_COMPONENTS_ALL runtime development documents)
-if(TARN_INSTALL_JRE_LINK)
-   list(APPEND CPACK_COMPONENTS_ALL jre)
+if(PROJECT_IS_TOP_LEVEL)
+   include(Package)
 endif()
-set(CPACK_DEB_COMPONENT_INSTALL ON)
-set(CPACK_COMPONENTS_GROUPING ALL_COMPONENTS_IN_ONE)
-set(CPACK_STRIP_FILES ON)
-set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-set(CPACK_DEBIAN_PACKAGE_SECTION libdevel)
-set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${STAGED_HOME}/${LIBRARY_DIR})
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS default-jre-headless)
-set(CPACK_DEBIAN_PACKAGE_SUGGESTS "g++, cmake, pkg-config")
-if(CMAKE_SYSTEM_PROCESSOR MATCHES "aarch64|arm64")
-   set(CPACK_DEBIAN_PACKAGE_ARCHITECTURE arm64)
-elseif(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
-   set(CPACK_DEBIAN_PACKAGE_ARCHITECTURE amd64)
-endif()
-include(CPack)

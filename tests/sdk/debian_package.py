@@ -1,5 +1,6 @@
 """Builds the Debian package, installs it into a root of its own, and removes it again."""
 
+import gzip
 import os
 import shutil
 
@@ -10,6 +11,8 @@ def main():
     to = sdk.settings()
     if not shutil.which("dpkg") or not shutil.which("dpkg-shlibdeps"):
         sdk.skip("no dpkg, or no dpkg-shlibdeps: Debian packages are not built here")
+    if not shutil.which("file"):
+        sdk.skip("no file: CPack asks it which files are libraries")
     if os.geteuid() != 0:
         sdk.skip("only root can install a package, even into a folder")
     differences = sdk.Differences()
@@ -33,10 +36,17 @@ def main():
 
         sdk.run(*dpkg, "--install", packages[0])
         home = root / "opt/tarn1516e"
-        sdk.put_jar_and_vm(to, home)
+        differences.check("jre", os.readlink(home / "jre") == "/usr/lib/jvm/default-java")
+        reading = root / "usr/share/doc/tarn1516e"
+        differences.check("copyright", "License:" in (reading / "copyright").read_text())
+        with gzip.open(reading / "changelog.gz", "rt") as changes:
+            differences.check("changes", f"tarn1516e ({to.version})" in changes.read())
+        if not (home / "jre/lib").exists():
+            os.remove(home / "jre")
+            (home / "jre").symlink_to(to.jdk)
+        shutil.copy(to.jar, home / "lib/tarn1516e.jar")
         output = sdk.run(home / "bin/tarn1516e-check", cwd=scratch)
         differences.check("a federate starts", "All is well" in output, output)
-        os.remove(home / "jre")
         os.remove(home / "lib/tarn1516e.jar")
 
         sdk.run(*dpkg, "--remove", "tarn1516e")

@@ -47,19 +47,30 @@ def ask_for_components(to, home, folder, differences):
     project.mkdir()
     for wanted, answer in (
             ("5.5 COMPONENTS rti1516e fedtime1516e check", "found"),
-            ("5.5 COMPONENTS standin", "not found"),
-            ("6.0", "not found"),
-            ("4.0", "not found")):
+            ("5.5 COMPONENTS standin", "jar is not installed"),
+            ("5.5 COMPONENTS nonsense", "no component 'nonsense'"),
+            ("6.0", "it is not found"),
+            ("4.0", "it is not found")):
         (project / "CMakeLists.txt").write_text(
             "cmake_minimum_required(VERSION 3.22)\nproject(asking LANGUAGES CXX)\n"
-            f"find_package(tarn1516e {wanted} QUIET)\n"
+            f"find_package(tarn1516e {wanted})\n"
             "if(tarn1516e_FOUND)\n   message(STATUS \"it is found at ${tarn1516e_HOME}\")\n"
             "else()\n   message(STATUS \"it is not found\")\nendif()\n")
         shutil.rmtree(project / "build", ignore_errors=True)
         output = sdk.run(to.cmake, "-S", project, "-B", project / "build",
                          f"-DCMAKE_PREFIX_PATH={home}", f"-DCMAKE_CXX_COMPILER={to.compiler}")
-        expected = f"it is found at {home}" if answer == "found" else "it is not found"
-        differences.check(f"find_package(tarn1516e {wanted})", expected in output, output)
+        said = " ".join(output.split())
+        holds = (f"it is found at {home}" if answer == "found" else answer) in said
+        differences.check(f"find_package(tarn1516e {wanted})", holds, output)
+
+    # Below another project it brings its libraries, and no tests.
+    (project / "CMakeLists.txt").write_text(
+        "cmake_minimum_required(VERSION 3.22)\nproject(above LANGUAGES CXX)\n"
+        f"add_subdirectory({to.source} below)\n"
+        "message(STATUS \"tests ${TARN_TESTS}\")\n")
+    output = sdk.run(to.cmake, "-S", project, "-B", folder / "above",
+                     f"-DCMAKE_CXX_COMPILER={to.compiler}")
+    differences.check("add_subdirectory", "tests OFF" in output, output)
 
 
 def main():

@@ -6,6 +6,7 @@ import sys
 from pathlib import Path
 
 import sdk
+from snippets import follow_links
 
 LIST = Path(__file__).parent / "installed-files.txt"
 
@@ -76,6 +77,8 @@ def main():
         usual = set().union(*(names for component, names in expected.items()
                               if component != "standin"))
         differences.same_lines("without a component", usual, files_below(to, scratch / "all"))
+        for document in (scratch / "all").rglob("*.md"):
+            follow_links(document, differences)
         jre_link(to, scratch, differences)
     differences.finish()
 
