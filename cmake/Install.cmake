@@ -2,6 +2,7 @@
 #
 #    versioninfo.txt            marks it as a home
 #    bin/tarn1516e-check        tells why a federate does not start
+#    share/man/                 its manual page
 #    include/                   the public headers
 #    lib/<toolchain>/           the libraries
 #    lib/cmake/, lib/pkgconfig/ what builds against them ask for
@@ -26,6 +27,7 @@ install(TARGETS rti1516e rti1516e-own-time fedtime1516e EXPORT tarn1516e
    LIBRARY DESTINATION ${LIBRARY_DIR} COMPONENT runtime NAMELINK_COMPONENT development)
 install(FILES ${PROJECT_BINARY_DIR}/versioninfo.txt DESTINATION . COMPONENT runtime)
 install(TARGETS tarn1516e-check EXPORT tarn1516e RUNTIME DESTINATION bin COMPONENT runtime)
+install(FILES docs/tarn1516e-check.1 DESTINATION share/man/man1 COMPONENT runtime)
 if(TARN_INSTALL_JRE_LINK)
    file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/install)
    file(CREATE_LINK ${TARN_JRE_LINK} ${PROJECT_BINARY_DIR}/install/jre SYMBOLIC)

@@ -337,11 +337,29 @@ def cwd_of(path):
         return None
 
 
+# What the library shows begins with a capital and has a blank in it.
+SHOWN = re.compile(r'"([A-Z][^"%\\]* [^"%\\]+)')
+SHOWN_IN = ("jvm/*", "gen/cpp/*", "bridge/*", "runtime/*", "api/*.*", "time/*", "encoding/*")
+
+
+def look_up(to, differences):
+    """Every text of the library stands in the document of failures."""
+    document = (to.source / "docs/failures.md").read_text().replace("\n", " ")
+    texts = {text for places in SHOWN_IN for path in to.source.glob(places) if path.is_file()
+             for text in SHOWN.findall(re.sub("//.*", "", path.read_text()))}
+    for text in sorted(texts - {"Tarn Evolved"}):
+        differences.check("docs/failures.md lacks", text.strip(" '") in document, text)
+
+
 def main():
     to = sdk.settings()
     differences = sdk.Differences()
+    look_up(to, differences)
     with sdk.Scratch() as scratch:
         home = sdk.install_and_move(to, scratch)
+        page = (home / "share/man/man1/tarn1516e-check.1").read_text().replace("\\", "")
+        for option in re.findall("--[a-z-]+", sdk.run(home / "bin/tarn1516e-check", "--help")):
+            differences.check("the manual page lacks", option in page, option)
         shutil.rmtree(home / "share")
         for number, one in enumerate(CASES):
             place = Place(to, home, scratch / str(number))
