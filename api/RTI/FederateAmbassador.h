@@ -29,8 +29,9 @@ namespace rti1516e {
 ///
 /// What a callback throws goes back to the RTI as the Java exception FederateInternalError. Its
 /// text is what() of an Exception, of each character the low 8 bits, what() of a std::exception,
-/// the text of a thrown std::string, and "Unknown C++ exception" for anything else. The latter passes uncaught into the Java VM if the
-/// environment variable TARN1516_DONTCATCHALL was set when the process made its last ambassador.
+/// the text of a thrown std::string, and "Unknown C++ exception" for anything else. The latter
+/// passes uncaught into the Java VM if the environment variable TARN1516_DONTCATCHALL was set when
+/// the process made its last ambassador.
 ///
 /// The operations have no exception list, so that a federate may override them with or without the
 /// list (FederateInternalError). Up to C++14 an override with a list keeps to it: what is not in
