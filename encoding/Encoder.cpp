@@ -88,7 +88,8 @@ void appendCharacters(std::vector<char>& buffer, std::wstring const& value)
 
 int sizeAsInt(unsigned long size)
 {
-   return static_cast<int>(static_cast<unsigned int>(size));
+   unsigned int const low = static_cast<unsigned int>(size);
+   return low == size ? static_cast<int>(low) : -1;
 }
 
 template <class Text>

@@ -1,4 +1,5 @@
 // Scalars, strings and opaque data: values and bytes, what they are bound to, hashes.
+#include "encoding/Encoder.h"
 #include "tests/api/Bytes.h"
 #include "tests/encoding/Failures.h"
 
@@ -146,6 +147,15 @@ TEST(ElementTest, edges)
 std::string dataOf(HLAopaqueData const& element)
 {
    return std::string(element.get(), element.dataLength());
+}
+
+// What says that a string is too long to encode, without such a string.
+TEST(ElementTest, sizesThatNoIntHolds)
+{
+   EXPECT_EQ(2147483647, Encoder::sizeAsInt(2147483647));
+   for (unsigned long const size : {1UL << 31, (1UL << 32) - 1, 1UL << 32, (1UL << 32) + 4}) {
+      EXPECT_GT(0, Encoder::sizeAsInt(size)) << size;
+   }
 }
 
 TEST(OpaqueDataTest, isOwned)
