@@ -51,7 +51,8 @@ public:
 };
 
 /// Finds the factory that the federate's time library offers. The library asks it for the kind of
-/// time of the federation at every join. It is defined in libfedtime1516e and not in the library
+/// time of the federation at the end of each join that goes well, and again at each
+/// RTIambassador::getTimeFactory(). It is defined in libfedtime1516e and not in the library
 /// itself: a federate with a kind of time of its own puts its own library of that name in front.
 class RTI_EXPORT_FEDTIME LogicalTimeFactoryFactory {
 public:

@@ -82,7 +82,8 @@ RTI_BASIC_DATA_ELEMENT(HLAbyte, char)
 /// Eight bits. Value: char. Bytes: 1. Boundary: 1.
 RTI_BASIC_DATA_ELEMENT(HLAoctet, Octet)
 
-/// A UTF-16 unit. Value: wchar_t, of which the low 16 bits are encoded; hash() uses them all.
+/// A UTF-16 unit. Value: wchar_t, of which the low 16 bits are encoded: a character beyond U+FFFF
+/// comes back as another one. hash() uses all bits.
 /// Bytes: 2, most significant first. Boundary: 2.
 RTI_BASIC_DATA_ELEMENT(HLAunicodeChar, wchar_t)
 
@@ -123,12 +124,14 @@ RTI_BASIC_DATA_ELEMENT(HLAoctetPairBE, OctetPair)
 RTI_BASIC_DATA_ELEMENT(HLAoctetPairLE, OctetPair)
 
 /// Value: std::string. Bytes: 4 for the number n of characters, as HLAinteger32BE, then n, as they
-/// are. Boundary: 4.
+/// are. Boundary: 4. What takes 2^31 bytes or more can't be encoded: no memory is found for it,
+/// which no exception list has, so that the process ends.
 RTI_BASIC_DATA_ELEMENT(HLAASCIIstring, std::string)
 
 /// Value: std::wstring. Bytes: 4 for the number n of characters, as HLAinteger32BE, then 2 n: the
-/// low 16 bits of each character, most significant byte first, without regard to surrogates.
-/// Boundary: 4.
+/// low 16 bits of each character, most significant byte first. Nothing is done about surrogates: a
+/// character beyond U+FFFF is cut and comes back as another one, unless the string holds it as its
+/// two surrogates. Boundary: 4. Of the size holds what is told at HLAASCIIstring.
 RTI_BASIC_DATA_ELEMENT(HLAunicodeString, std::wstring)
 
 } // namespace rti1516e

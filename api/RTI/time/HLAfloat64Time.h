@@ -18,10 +18,12 @@ class HLAfloat64TimeImplementation;
 
 /// A logical time that is a double; nothing keeps it from being negative, infinite or NaN.
 ///
-/// Adding or subtracting an interval other than zero never leaves a time as it was. Where rounding
-/// would, the bit pattern of the time is raised by one for an addition and lowered by one for a
-/// subtraction, whatever the signs of time and interval; a negative time so moves away from zero by
-/// an addition. Comparisons are the plain ones of doubles. The encoded form is the 8 bytes of the
+/// Adding or subtracting an interval other than zero never leaves a time as it was, unless that is
+/// NaN. Where rounding would, the bit pattern of the time is raised by one for an addition and
+/// lowered by one for a subtraction, whatever the signs of time and interval; a negative time so
+/// moves away from zero by an addition, and an infinite one becomes NaN. A time that is NaN, or an
+/// interval that is, gives NaN. Comparisons are the plain ones of doubles: with NaN every one of
+/// them is false, as are isInitial() and isFinal(). The encoded form is the 8 bytes of the
 /// IEEE 754 double, most significant byte first.
 ///
 /// Where an operation takes a LogicalTime it takes an HLAfloat64Time, and an HLAfloat64Interval
