@@ -102,6 +102,12 @@ public:
    {
       return *data._implementation;
    }
+
+   // A record that is shared or has no room must not be written to.
+   static VariableLengthDataImplementation& getImplementation(VariableLengthData& data)
+   {
+      return *data._implementation;
+   }
 };
 
 } // namespace rti1516e

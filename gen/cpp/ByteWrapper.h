@@ -2,9 +2,44 @@
 #ifndef gen_ByteWrapper_h
 #define gen_ByteWrapper_h
 
+#include <cstdint>
 #include <cstring>
 
 namespace rti1516e {
+
+// As memcpy, which is called only for what is long: most values are a number or a few. What lies
+// between two sizes is copied in two pieces, which may overlap.
+inline void copyBytes(void* to, void const* from, unsigned long count)
+{
+   char* const target = static_cast<char*>(to);
+   char const* const source = static_cast<char const*>(from);
+   if (count == 8) {
+      std::memcpy(target, source, 8);
+   } else if (count - 32 <= 32) {
+      std::memcpy(target, source, 32);
+      std::memcpy(target + count - 32, source + count - 32, 32);
+   } else if (count - 16 <= 16) {
+      std::memcpy(target, source, 16);
+      std::memcpy(target + count - 16, source + count - 16, 16);
+   } else if (count == 4) {
+      std::memcpy(target, source, 4);
+   } else if (count != 0) {
+      std::memcpy(target, source, count);
+   }
+}
+
+// Eight bytes, or two integers of which the first is the high half.
+inline void storeLong(char* bytes, std::uint64_t value)
+{
+   bytes[0] = static_cast<char>(value >> 56);
+   bytes[1] = static_cast<char>(value >> 48);
+   bytes[2] = static_cast<char>(value >> 40);
+   bytes[3] = static_cast<char>(value >> 32);
+   bytes[4] = static_cast<char>(value >> 24);
+   bytes[5] = static_cast<char>(value >> 16);
+   bytes[6] = static_cast<char>(value >> 8);
+   bytes[7] = static_cast<char>(value);
+}
 
 // Integers are signed 32-bit, most significant byte first; a field begins where the last one ended.
 // The wrapper knows no end: whoever fills or reads a buffer answers for its length.
@@ -36,6 +71,18 @@ public:
       bytes[3] = static_cast<char>(bits);
    }
 
+   // 8 bytes, the high half first.
+   std::uint64_t getLong()
+   {
+      std::uint64_t const high = static_cast<unsigned>(getInt());
+      return high << 32 | static_cast<unsigned>(getInt());
+   }
+
+   void putLong(std::uint64_t value)
+   {
+      storeLong(reserve(8), value);
+   }
+
    void get(void* destination, unsigned long count)
    {
       if (count != 0) {
@@ -44,22 +91,9 @@ public:
       _position += count;
    }
 
-   // Most values are one number, which is copied without a call.
    void put(void const* source, unsigned long count)
    {
-      char* const bytes = reserve(count);
-      switch (count) {
-      case 0:
-         break;
-      case 4:
-         std::memcpy(bytes, source, 4);
-         break;
-      case 8:
-         std::memcpy(bytes, source, 8);
-         break;
-      default:
-         std::memcpy(bytes, source, count);
-      }
+      copyBytes(reserve(count), source, count);
    }
 
    char* getPtr()

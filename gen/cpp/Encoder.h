@@ -22,11 +22,16 @@
 #include "api/HandleFriends.h"
 #include "api/VariableLengthDataImplementation.h"
 #include "gen/cpp/ByteWrapper.h"
+#include "gen/cpp/MapWalk.h"
 #include <RTI/Enums.h>
 #include <RTI/Handle.h>
 #include <RTI/LogicalTime.h>
 #include <RTI/LogicalTimeInterval.h>
 #include <RTI/RangeBounds.h>
+#include <RTI/time/HLAfloat64Interval.h>
+#include <RTI/time/HLAfloat64Time.h>
+#include <RTI/time/HLAinteger64Interval.h>
+#include <RTI/time/HLAinteger64Time.h>
 #include <RTI/Typedefs.h>
 #include <RTI/VariableLengthData.h>
 
@@ -35,6 +40,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <typeinfo>
 #include <vector>
 
 namespace tarn1516e {
@@ -147,12 +153,6 @@ public:
    }
 };
 
-inline void putLong(rti1516e::ByteWrapper& buffer, std::uint64_t value)
-{
-   buffer.putInt(static_cast<int>(value >> 32));
-   buffer.putInt(static_cast<int>(value));
-}
-
 template <>
 class CppWrapper<double> : noncopyable {
 public:
@@ -167,7 +167,7 @@ public:
    {
       std::uint64_t bits;
       std::memcpy(&bits, &_value, sizeof bits);
-      putLong(buffer, bits);
+      buffer.putLong(bits);
    }
 
 private:
@@ -319,22 +319,25 @@ private:
 };
 
 // The way through a tree costs more than the writing of what is found, so it is gone once: while
-// the sizes are summed, the entries are noted, as many as there is room for.
+// the sizes are summed, what is to be written is noted, as much as there is room for.
 template <class Handle>
 class CppWrapper<std::map<Handle, rti1516e::VariableLengthData> const&> : noncopyable {
 public:
    typedef std::map<Handle, rti1516e::VariableLengthData> Values;
 
-   CppWrapper(JNIEnv*, Values const& value) : _value(value), _size(4), _noted(0)
+   CppWrapper(JNIEnv*, Values const& value)
+         : _value(value),
+           _size(4),
+           _noted(value.size() < room ? static_cast<int>(value.size()) : room),
+           _rest(value.begin())
    {
-      typename Values::const_iterator entry = value.begin();
-      for (; entry != value.end() && _noted != room; ++entry) {
-         _entries[_noted++] = &*entry;
-         _size += 8 + sizeOf(entry->second);
+      for (int i = 0; i != _noted; ++i) {
+         _notes[i] = noteOf(*_rest);
+         _size += 8 + _notes[i].record->size;
+         step(_rest);
       }
-      _rest = entry;
-      for (; entry != value.end(); ++entry) {
-         _size += 8 + sizeOf(entry->second);
+      if (_noted == room) {
+         addRest();
       }
    }
 
@@ -346,30 +349,59 @@ public:
    void encode(rti1516e::ByteWrapper& buffer) const
    {
       buffer.putInt(static_cast<int>(_value.size()));
+      char* at = buffer.reserve(_size - 4);
       for (int i = 0; i != _noted; ++i) {
-         putEntry(buffer, *_entries[i]);
+         at = put(at, _notes[i]);
       }
-      for (typename Values::const_iterator entry = _rest; entry != _value.end(); ++entry) {
-         putEntry(buffer, *entry);
+      if (_noted == room) {
+         putRest(at);
       }
    }
 
 private:
-   typedef typename Values::value_type Entry;
+   typedef typename Values::const_iterator Place;
+
+   struct Note {
+      std::uint64_t handle;
+      rti1516e::VariableLengthDataImplementation const* record;
+   };
 
    static int const room = 1024;
 
-   static void putEntry(rti1516e::ByteWrapper& buffer, Entry const& entry)
+   static Note noteOf(typename Values::value_type const& entry)
    {
-      buffer.putInt(handleValue(entry.first));
-      putBytes(buffer, entry.second);
+      return {static_cast<unsigned>(handleValue(entry.first)),
+            &rti1516e::VariableLengthDataFriend::getImplementation(entry.second)};
+   }
+
+   void __attribute__((noinline)) addRest()
+   {
+      for (Place entry = _rest; entry != _value.end(); step(entry)) {
+         _size += 8 + sizeOf(entry->second);
+      }
+   }
+
+   void __attribute__((noinline)) putRest(char* at) const
+   {
+      for (Place entry = _rest; entry != _value.end(); step(entry)) {
+         at = put(at, noteOf(*entry));
+      }
+   }
+
+   // Gives the place behind.
+   static char* put(char* at, Note const& note)
+   {
+      unsigned long const size = note.record->size;
+      rti1516e::storeLong(at, note.handle << 32 | static_cast<std::uint32_t>(size));
+      rti1516e::copyBytes(at + 8, note.record->data, size);
+      return at + 8 + size;
    }
 
    Values const& _value;
    unsigned long _size;
    int _noted;
-   Entry const* _entries[room];
-   typename Values::const_iterator _rest; // the first that is not noted
+   Place _rest; // the first that is not noted
+   Note _notes[room];
 };
 
 template <>
@@ -418,50 +450,94 @@ public:
 
    void encode(rti1516e::ByteWrapper& buffer) const
    {
-      putLong(buffer, _value.getLowerBound());
-      putLong(buffer, _value.getUpperBound());
+      buffer.putLong(_value.getLowerBound());
+      buffer.putLong(_value.getUpperBound());
    }
 
 private:
    rti1516e::RangeBounds const& _value;
 };
 
-// A time, an interval or a retraction handle: the bytes of its own encode(), made at once, so that
-// a failure of the value's leaves before the array exists.
-template <class Value>
-class EncodedWrapper : noncopyable {
+// A time or an interval: the bytes of its encode(), made at once, so that a failure of the value's
+// leaves before the array exists. Values of the standard classes themselves, of none derived from
+// them, are known to be a number of 8 bytes.
+template <class Value, class Integer, class Float>
+class TimeWrapper : noncopyable {
 public:
-   EncodedWrapper(JNIEnv*, Value const& value) : _encoded(value.encode()) {}
+   TimeWrapper(JNIEnv*, Value const& value)
+         : _isNumber(takeNumber(value)),
+           _encoded(_isNumber ? rti1516e::VariableLengthData() : value.encode())
+   {
+   }
 
    unsigned long getEncodedSize() const
    {
-      return _encoded.size();
+      return _isNumber ? 8 : sizeOf(_encoded);
    }
 
    void encode(rti1516e::ByteWrapper& buffer) const
    {
-      buffer.put(_encoded.data(), _encoded.size());
+      if (_isNumber) {
+         buffer.putLong(_number);
+      } else {
+         buffer.put(_encoded.data(), _encoded.size());
+      }
    }
 
 private:
+   bool takeNumber(Value const& value)
+   {
+      std::type_info const& type = typeid(value);
+      if (type == typeid(Float)) {
+         double const number = static_cast<Float const&>(value);
+         std::memcpy(&_number, &number, sizeof _number);
+         return true;
+      }
+      if (type == typeid(Integer)) {
+         long long const number = static_cast<Integer const&>(value);
+         _number = static_cast<std::uint64_t>(number);
+         return true;
+      }
+      return false;
+   }
+
+   std::uint64_t _number;
+   bool const _isNumber;
    rti1516e::VariableLengthData const _encoded;
 };
 
 template <>
-class CppWrapper<rti1516e::LogicalTime const&> : public EncodedWrapper<rti1516e::LogicalTime> {
-   using EncodedWrapper::EncodedWrapper;
+class CppWrapper<rti1516e::LogicalTime const&>
+      : public TimeWrapper<rti1516e::LogicalTime, rti1516e::HLAinteger64Time,
+              rti1516e::HLAfloat64Time> {
+   using TimeWrapper::TimeWrapper;
 };
 
 template <>
 class CppWrapper<rti1516e::LogicalTimeInterval const&>
-      : public EncodedWrapper<rti1516e::LogicalTimeInterval> {
-   using EncodedWrapper::EncodedWrapper;
+      : public TimeWrapper<rti1516e::LogicalTimeInterval, rti1516e::HLAinteger64Interval,
+              rti1516e::HLAfloat64Interval> {
+   using TimeWrapper::TimeWrapper;
 };
 
 template <>
-class CppWrapper<rti1516e::MessageRetractionHandle>
-      : public EncodedWrapper<rti1516e::MessageRetractionHandle> {
-   using EncodedWrapper::EncodedWrapper;
+class CppWrapper<rti1516e::MessageRetractionHandle> : noncopyable {
+public:
+   CppWrapper(JNIEnv*, rti1516e::MessageRetractionHandle const& handle) : _handle(handle) {}
+
+   unsigned long getEncodedSize() const
+   {
+      return _handle.encodedLength();
+   }
+
+   void encode(rti1516e::ByteWrapper& buffer) const
+   {
+      unsigned long const length = _handle.encodedLength();
+      _handle.encode(buffer.reserve(length), length);
+   }
+
+private:
+   rti1516e::MessageRetractionHandle const& _handle;
 };
 
 // ---- Results of Java methods -----------------------------------------------------------------
