@@ -1,10 +1,17 @@
 // Readers of the fields that callbacks carry.
 #include "gen/cpp/Decoder.h"
 
+#include "api/VariableLengthDataImplementation.h"
+#include "gen/cpp/MapWalk.h"
 #include "jvm/Assert.h"
+#include <RTI/time/HLAfloat64Time.h>
+#include <RTI/time/HLAfloat64TimeFactory.h>
+#include <RTI/time/HLAinteger64Time.h>
+#include <RTI/time/HLAinteger64TimeFactory.h>
 
 #include <new>
 #include <tuple>
+#include <typeinfo>
 #include <utility>
 
 using namespace rti1516e;
@@ -57,38 +64,97 @@ std::set<Handle> readHandleSet(ByteWrapper& buffer)
    return handles;
 }
 
-// Where a handle's value is to go; what the handle had is dropped. As a rule handles ascend, and
-// the place is behind the others.
-template <class Values>
-typename Values::iterator makePlace(Values& values, typename Values::key_type const& handle)
+// The bytes that stay with the value until the next ones come.
+std::size_t fill(VariableLengthData& value, Block block)
 {
-   if (values.empty() || values.rbegin()->first < handle) {
-      return values.end();
+   VariableLengthDataImplementation& record = VariableLengthDataFriend::getImplementation(value);
+   if (!useCopies) {
+      value.setDataPointer(block.bytes, block.size);
+   } else if (record.hasRoomFor(block.size)) {
+      record.size = block.size;
+      copyBytes(record.data, block.bytes, block.size);
+      return record.room;
+   } else {
+      value.setData(block.bytes, block.size);
    }
-   typename Values::iterator const place = values.lower_bound(handle);
-   bool const isTaken = place != values.end() && place->first == handle;
-   return isTaken ? values.erase(place) : place;
+   return VariableLengthDataFriend::getImplementation(value).room;
 }
 
-// The last of several values for one handle stays. Values are made where they stay, so that each is
-// allocated once, and nothing half made is left behind when memory ends.
-template <class Handle, Handle (*makeHandle)(int)>
-std::map<Handle, VariableLengthData> readValueMap(ByteWrapper& buffer)
+std::size_t refill(ByteWrapper& buffer, VariableLengthData& tag)
 {
-   std::map<Handle, VariableLengthData> values;
+   return fill(tag, readBlock(buffer));
+}
+
+// As long as the handles are those that the map has, their values are written over; from the first
+// other one on the map is made anew. The last of several values for one handle stays.
+template <class Handle, Handle (*makeHandle)(int)>
+std::size_t refill(ByteWrapper& buffer, std::map<Handle, VariableLengthData>& values)
+{
+   typedef typename std::map<Handle, VariableLengthData>::iterator Place;
+   std::size_t const node = 128; // bytes of an entry and of its value's record, about
+   std::size_t held = 0;
+   Place old = values.begin();
    int const count = buffer.getInt();
    for (int i = 0; i < count; ++i) {
       Handle const handle = makeHandle(buffer.getInt());
-      Block const block = readBlock(buffer);
-      if (useCopies) {
-         values.emplace_hint(makePlace(values, handle), std::piecewise_construct,
-               std::forward_as_tuple(handle), std::forward_as_tuple(block.bytes, block.size));
+      Place entry = old;
+      if (old != values.end() && old->first == handle) {
+         step(old);
       } else {
-         values[handle].setDataPointer(block.bytes, block.size);
+         if (old != values.end()) {
+            values.erase(old, values.end());
+            old = values.end();
+         }
+         entry = values.emplace_hint(
+               old, std::piecewise_construct, std::forward_as_tuple(handle), std::tuple<>());
       }
+      held += node + fill(entry->second, readBlock(buffer));
    }
-   return values;
+   values.erase(old, values.end());
+   return held;
 }
+
+std::size_t refill(ByteWrapper& buffer, AttributeHandleValueMap& values)
+{
+   return refill<AttributeHandle, makeAttributeHandle>(buffer, values);
+}
+
+std::size_t refill(ByteWrapper& buffer, ParameterHandleValueMap& values)
+{
+   return refill<ParameterHandle, makeParameterHandle>(buffer, values);
+}
+
+struct Spares {
+   std::unique_ptr<AttributeHandleValueMap> attributes;
+   std::unique_ptr<ParameterHandleValueMap> parameters;
+   std::unique_ptr<VariableLengthData> tag;
+   std::unique_ptr<LogicalTime> integerTime;
+   std::unique_ptr<LogicalTime> floatTime;
+};
+
+// What the thread keeps.
+Spares& spares()
+{
+   thread_local Spares kept;
+   return kept;
+}
+
+std::unique_ptr<AttributeHandleValueMap>& spareOf(AttributeHandleValueMap*)
+{
+   return spares().attributes;
+}
+
+std::unique_ptr<ParameterHandleValueMap>& spareOf(ParameterHandleValueMap*)
+{
+   return spares().parameters;
+}
+
+std::unique_ptr<VariableLengthData>& spareOf(VariableLengthData*)
+{
+   return spares().tag;
+}
+
+std::size_t const mostKept = 64 * 1024; // bytes
 
 } // namespace
 
@@ -172,14 +238,33 @@ std::wstring decodeString(ByteWrapper& buffer)
 
 VariableLengthData decodeTag(ByteWrapper& buffer)
 {
-   Block const block = readBlock(buffer);
-   if (useCopies) {
-      return VariableLengthData(block.bytes, block.size);
-   }
    VariableLengthData tag;
-   tag.setDataPointer(block.bytes, block.size);
+   refill(buffer, tag);
    return tag;
 }
+
+template <class Value>
+JavaSpare<Value>::JavaSpare(FederateAmbassadorHelper*, ByteWrapper& buffer)
+      : _spare(spareOf(static_cast<Value*>(nullptr))),
+        _value(std::move(_spare))
+{
+   if (_value == nullptr) {
+      _value.reset(new Value);
+   }
+   _held = refill(buffer, *_value);
+}
+
+template <class Value>
+JavaSpare<Value>::~JavaSpare()
+{
+   if (_held <= mostKept) {
+      _spare = std::move(_value);
+   }
+}
+
+template class JavaSpare<VariableLengthData>;
+template class JavaSpare<AttributeHandleValueMap>;
+template class JavaSpare<ParameterHandleValueMap>;
 
 MessageRetractionHandle decodeMessageRetractionHandle(ByteWrapper& buffer)
 {
@@ -209,16 +294,6 @@ std::set<std::wstring> decodeSetOfString(ByteWrapper& buffer)
       strings.insert(decodeString(buffer));
    }
    return strings;
-}
-
-AttributeHandleValueMap decodeAttributeHandleValueMap(ByteWrapper& buffer)
-{
-   return readValueMap<AttributeHandle, makeAttributeHandle>(buffer);
-}
-
-ParameterHandleValueMap decodeParameterHandleValueMap(ByteWrapper& buffer)
-{
-   return readValueMap<ParameterHandle, makeParameterHandle>(buffer);
 }
 
 FederateHandleSaveStatusPairVector decodeSaveStatusPairs(ByteWrapper& buffer)
@@ -293,6 +368,56 @@ SupplementalRemoveInfo decodeRemoveInfo(ByteWrapper& buffer)
       info.producingFederate = decodeFederateHandle(buffer);
    }
    return info;
+}
+
+namespace {
+
+void setTime(HLAinteger64Time& time, std::uint64_t bits)
+{
+   time.setTime(static_cast<long long>(bits));
+}
+
+void setTime(HLAfloat64Time& time, std::uint64_t bits)
+{
+   double number;
+   std::memcpy(&number, &bits, sizeof number);
+   time.setTime(number);
+}
+
+// A time of 8 bytes, in the thread's object or, while that is in use, in a new one.
+template <class Time>
+std::unique_ptr<LogicalTime> readTime(ByteWrapper& buffer, std::unique_ptr<LogicalTime>& spare)
+{
+   std::unique_ptr<LogicalTime> time = std::move(spare);
+   if (time == nullptr) {
+      time.reset(new Time);
+   }
+   setTime(static_cast<Time&>(*time), buffer.getLong());
+   return time;
+}
+
+} // namespace
+
+JavaLogicalTime::JavaLogicalTime(FederateAmbassadorHelper* helper, ByteWrapper& buffer)
+      : _spare(nullptr)
+{
+   LogicalTimeFactory const* const factory = helper->timeFactory.get();
+   if (factory != nullptr && typeid(*factory) == typeid(HLAfloat64TimeFactory)) {
+      _spare = &spares().floatTime;
+      _value = readTime<HLAfloat64Time>(buffer, *_spare);
+   } else if (factory != nullptr && typeid(*factory) == typeid(HLAinteger64TimeFactory)) {
+      _spare = &spares().integerTime;
+      _value = readTime<HLAinteger64Time>(buffer, *_spare);
+   } else {
+      _value = helper->makeLogicalTime(buffer);
+   }
+}
+
+JavaLogicalTime::~JavaLogicalTime()
+{
+   if (_spare != nullptr) {
+      *_spare = std::move(_value);
+   }
 }
 
 } // namespace tarn1516e

@@ -24,6 +24,8 @@
 #include <RTI/Typedefs.h>
 #include <RTI/VariableLengthData.h>
 
+#include <cstddef>
+#include <memory>
 #include <set>
 #include <string>
 #include <vector>
@@ -54,8 +56,6 @@ rti1516e::FederateHandleSet decodeFederateHandleSet(rti1516e::ByteWrapper& buffe
 rti1516e::AttributeHandleSet decodeAttributeHandleSet(rti1516e::ByteWrapper& buffer);
 rti1516e::RegionHandleSet decodeRegionHandleSet(rti1516e::ByteWrapper& buffer);
 std::set<std::wstring> decodeSetOfString(rti1516e::ByteWrapper& buffer);
-rti1516e::AttributeHandleValueMap decodeAttributeHandleValueMap(rti1516e::ByteWrapper& buffer);
-rti1516e::ParameterHandleValueMap decodeParameterHandleValueMap(rti1516e::ByteWrapper& buffer);
 rti1516e::FederateHandleSaveStatusPairVector decodeSaveStatusPairs(rti1516e::ByteWrapper& buffer);
 rti1516e::FederateRestoreStatusVector decodeRestoreStatuses(rti1516e::ByteWrapper& buffer);
 rti1516e::FederationExecutionInformationVector decodeFederationExecutions(
@@ -128,6 +128,29 @@ private:
    Value _value;
 };
 
+// A field whose value a thread keeps from one callback to the next, if it is not large: most
+// callbacks resemble the one before, whose memory does for them. While a callback has the thread's
+// value, one within it makes its own.
+template <class Value>
+class JavaSpare {
+public:
+   JavaSpare(FederateAmbassadorHelper*, rti1516e::ByteWrapper& buffer);
+   ~JavaSpare();
+
+   operator Value const&() const
+   {
+      return *_value;
+   }
+
+private:
+   JavaSpare(JavaSpare const&) = delete;
+   JavaSpare& operator=(JavaSpare const&) = delete;
+
+   std::unique_ptr<Value>& _spare; // the thread's
+   std::unique_ptr<Value> _value;
+   std::size_t _held; // bytes
+};
+
 typedef JavaCode<rti1516e::SynchronizationPointFailureReason, decodeSyncFailureReason>
       JavaSynchronizationPointFailureReason;
 typedef JavaCode<rti1516e::SaveFailureReason, decodeSaveFailureReason> JavaSaveFailureReason;
@@ -149,14 +172,12 @@ typedef JavaField<rti1516e::MessageRetractionHandle, decodeMessageRetractionHand
 
 typedef JavaField<std::wstring, decodeString> JavaString;
 typedef JavaField<std::set<std::wstring>, decodeSetOfString> JavaSetOfString;
-typedef JavaField<rti1516e::VariableLengthData, decodeTag> JavaByteArray;
 typedef JavaField<rti1516e::FederateHandleSet, decodeFederateHandleSet> JavaFederateHandleSet;
 typedef JavaField<rti1516e::AttributeHandleSet, decodeAttributeHandleSet> JavaAttributeHandleSet;
 typedef JavaField<rti1516e::RegionHandleSet, decodeRegionHandleSet> JavaRegionHandleSet;
-typedef JavaField<rti1516e::AttributeHandleValueMap, decodeAttributeHandleValueMap>
-      JavaAttributeHandleValueMap;
-typedef JavaField<rti1516e::ParameterHandleValueMap, decodeParameterHandleValueMap>
-      JavaParameterHandleValueMap;
+typedef JavaSpare<rti1516e::VariableLengthData> JavaByteArray;
+typedef JavaSpare<rti1516e::AttributeHandleValueMap> JavaAttributeHandleValueMap;
+typedef JavaSpare<rti1516e::ParameterHandleValueMap> JavaParameterHandleValueMap;
 typedef JavaField<rti1516e::FederateHandleSaveStatusPairVector, decodeSaveStatusPairs>
       JavaFederateHandleSaveStatusPairArray;
 typedef JavaField<rti1516e::FederateRestoreStatusVector, decodeRestoreStatuses>
@@ -167,13 +188,12 @@ typedef JavaField<rti1516e::SupplementalReflectInfo, decodeReflectInfo> JavaSupp
 typedef JavaField<rti1516e::SupplementalReceiveInfo, decodeReceiveInfo> JavaSupplementalReceiveInfo;
 typedef JavaField<rti1516e::SupplementalRemoveInfo, decodeRemoveInfo> JavaSupplementalRemoveInfo;
 
-// Holds nothing, and has read nothing, while the helper has no factory.
+// Holds nothing, and has read nothing, while the helper has no factory. Times of the standard
+// factories themselves, of none derived from them, are kept by the thread as other spares are.
 class JavaLogicalTime {
 public:
-   JavaLogicalTime(FederateAmbassadorHelper* helper, rti1516e::ByteWrapper& buffer)
-         : _value(helper->makeLogicalTime(buffer))
-   {
-   }
+   JavaLogicalTime(FederateAmbassadorHelper* helper, rti1516e::ByteWrapper& buffer);
+   ~JavaLogicalTime();
 
    operator rti1516e::LogicalTime const&() const
    {
@@ -181,7 +201,11 @@ public:
    }
 
 private:
+   JavaLogicalTime(JavaLogicalTime const&) = delete;
+   JavaLogicalTime& operator=(JavaLogicalTime const&) = delete;
+
    std::unique_ptr<rti1516e::LogicalTime> _value;
+   std::unique_ptr<rti1516e::LogicalTime>* _spare; // the thread's; null for other times
 };
 
 } // namespace tarn1516e

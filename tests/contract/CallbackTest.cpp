@@ -148,6 +148,72 @@ TEST_F(Callbacks, giveAnEmptyTagStorageToo)
    EXPECT_EQ(0U, holder.size);
 }
 
+namespace {
+
+// Lets another reflection arrive inside the first.
+class Nester : public NullFederateAmbassador {
+public:
+   using NullFederateAmbassador::reflectAttributeValues;
+
+   void reflectAttributeValues(ObjectInstanceHandle, AttributeHandleValueMap const& values,
+         VariableLengthData const& tag, OrderType, TransportationType,
+         SupplementalReflectInfo) override
+   {
+      std::string const next = inner;
+      inner.clear();
+      if (!next.empty()) {
+         script::fire(native, next);
+      }
+      std::string text = bytesOf(tag);
+      for (auto const& entry : values) {
+         text += " " + std::to_string(entry.first.hash() / 37) + bytesOf(entry.second);
+      }
+      seen.push_back(text);
+   }
+
+   static std::string bytesOf(VariableLengthData const& data)
+   {
+      return std::string(static_cast<char const*>(data.data()), data.size());
+   }
+
+   std::string const native = "reflectAttributeValues_OIH_AHVM_BX_OT_TTH_FASRI_Native";
+   std::string inner;
+   Texts seen;
+};
+
+} // namespace
+
+// Whatever the one before left behind, and while another is still at work.
+TEST_F(Callbacks, areEachOthersNeighbours)
+{
+   Federate federate;
+   Nester nester;
+   int const handle = takeHandle();
+   federate.rti->connect(nester, HLA_EVOKED);
+   auto const reflection = [&](std::vector<Wire> const& values, std::string const& tag) {
+      return frame(handle,
+            integer(1) + counted(values) + block(tag) + integer(0) + integer(1) + integer(0)
+                  + integer(0));
+   };
+   Wire const one = integer(1), two = integer(2), three = integer(3);
+   std::string const usual = reflection({one + block("a"), two + block("bc")}, "tag");
+   struct Row {
+      std::string frame;
+      char const* seen;
+   };
+   Row const rows[] = {{usual, "tag 1a 2bc"}, {usual, "tag 1a 2bc"},
+         {reflection({one + block("xyz"), two + block("")}, ""), " 1xyz 2"},
+         {reflection({two + block("b"), one + block("a"), two + block("c")}, "t"), "t 1a 2c"},
+         {reflection({one + block("a")}, "t"), "t 1a"}, {reflection({}, "t"), "t"},
+         {reflection({one + block("a"), three + block("c")}, "t"), "t 1a 3c"}};
+   for (Row const& row : rows) {
+      nester.seen.clear();
+      nester.inner = reflection({one + block("A"), two + block("BC")}, "inner");
+      script::fire(nester.native, row.frame);
+      EXPECT_EQ((Texts{"inner 1A 2BC", row.seen}), nester.seen);
+   }
+}
+
 TEST_F(Callbacks, turnExceptionsIntoFederateInternalErrors)
 {
    for (Thrown const& thrown : knownKinds) {

@@ -113,12 +113,10 @@ private:
       });
    }
 
-   // The time: its bytes, and the record of the data that takes them over, twice made. The
-   // retraction handle: its record and that of its payload.
    void addTimedServices()
    {
       AttributeHandleValueMap const values = makeValues(1, 8);
-      addService("timed-update-1x8", 1, 4 + 4 + 16 + 4 + 8, [=](RTIambassador& ambassador) {
+      addService("timed-update-1x8", 0, 4 + 4 + 16 + 4 + 8, [=](RTIambassador& ambassador) {
          static VariableLengthData const noTag;
          static HLAfloat64Time const time(1.5);
          ambassador.updateAttributeValues(_object, values, noTag, time);
@@ -134,28 +132,28 @@ private:
             [this] { return _federate.reached; }, reached});
    }
 
-   void addReflection(int count)
+   void addReflection(int count, long allocations)
    {
-      // For each attribute a node of the map, and a record with the bytes; the same for the tag.
       addCallback("reflect-" + std::to_string(count),
             "reflectAttributeValues_OIH_AHVM_BX_OT_TTH_FASRI", makeReflection(_handle, count, 8),
-            2 * count + 1, count);
+            allocations, count);
    }
 
    void addCallbacks()
    {
       using namespace contract;
-      addReflection(0);
-      addReflection(1);
-      addReflection(10);
-      addReflection(100);
+      addReflection(0, 0);
+      addReflection(1, 0);
+      addReflection(10, 0);
+      addReflection(100, 0);
+      // So much is not kept: the map, and for each attribute a node and a record with the bytes.
+      addReflection(1000, 1 + 2 * 1000);
       addCallback("attributesInScope-3", "attributesInScope_OIH_AHS",
             frame(_handle, integer(1) + counted({integer(1), integer(2), integer(3)})), 3, 3);
       // A string of more characters than it holds in itself.
       addCallback("discoverObjectInstance", "discoverObjectInstance_OIH_OCH_S",
             frame(_handle, integer(1) + integer(2) + text(L"Fortuna")), 1, 7);
-      // The time that is delivered and the final one, which tells the length; each with its value.
-      addCallback("timeAdvanceGrant", "timeAdvanceGrant_LT", makeGrant(_handle, 1.5), 2 + 2, 8);
+      addCallback("timeAdvanceGrant", "timeAdvanceGrant_LT", makeGrant(_handle, 1.5), 0, 8);
       addCallback("federationSaved", "federationSaved", frame(_handle, Wire()), 0, 0);
    }
 
