@@ -1,7 +1,10 @@
 // The factory of the standard float time.
 #include <RTI/time/HLAfloat64TimeFactory.h>
 
+#include "api/StandardFactories.h"
 #include "time/StandardTimeFactory.h"
+
+#include <typeinfo>
 
 namespace rti1516e {
 
@@ -10,3 +13,8 @@ DEFINE_STANDARD_TIME_FACTORY(
       HLAfloat64TimeFactory, HLAfloat64Time, HLAfloat64Interval, double, 1.0, HLAfloat64TimeName)
 
 } // namespace rti1516e
+
+bool tarn1516e::isFloat64TimeFactory(rti1516e::LogicalTimeFactory const& factory)
+{
+   return typeid(factory) == typeid(rti1516e::HLAfloat64TimeFactory);
+}

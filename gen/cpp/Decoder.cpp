@@ -1,17 +1,15 @@
 // Readers of the fields that callbacks carry.
 #include "gen/cpp/Decoder.h"
 
+#include "api/StandardFactories.h"
 #include "api/VariableLengthDataImplementation.h"
 #include "gen/cpp/MapWalk.h"
 #include "jvm/Assert.h"
 #include <RTI/time/HLAfloat64Time.h>
-#include <RTI/time/HLAfloat64TimeFactory.h>
 #include <RTI/time/HLAinteger64Time.h>
-#include <RTI/time/HLAinteger64TimeFactory.h>
 
 #include <new>
 #include <tuple>
-#include <typeinfo>
 #include <utility>
 
 using namespace rti1516e;
@@ -402,10 +400,10 @@ JavaLogicalTime::JavaLogicalTime(FederateAmbassadorHelper* helper, ByteWrapper& 
       : _spare(nullptr)
 {
    LogicalTimeFactory const* const factory = helper->timeFactory.get();
-   if (factory != nullptr && typeid(*factory) == typeid(HLAfloat64TimeFactory)) {
+   if (factory != nullptr && isFloat64TimeFactory(*factory)) {
       _spare = &spares().floatTime;
       _value = readTime<HLAfloat64Time>(buffer, *_spare);
-   } else if (factory != nullptr && typeid(*factory) == typeid(HLAinteger64TimeFactory)) {
+   } else if (factory != nullptr && isInteger64TimeFactory(*factory)) {
       _spare = &spares().integerTime;
       _value = readTime<HLAinteger64Time>(buffer, *_spare);
    } else {
