@@ -2,7 +2,7 @@
 #ifndef harbour_Inbox_h
 #define harbour_Inbox_h
 
-#include "Ambassador.h"
+#include "../Ambassador.h"
 #include "Ledger.h"
 
 #include <condition_variable>

@@ -1,30 +1,16 @@
 // Two federates in one process, each with an ambassador of its own: one takes its callbacks when it
 // asks for them, the other one whenever they come. Ends with 0 if everything sent arrived as sent.
+#include "../Text.h"
 #include "Federate.h"
 
 #include <clocale>
-#include <cstdlib>
 #include <exception>
 #include <iostream>
-#include <stdexcept>
-#include <string>
 #include <thread>
-#include <vector>
 
 namespace {
 
 int const steps = 5;
-
-// Text from outside is in the encoding that the locale tells.
-std::wstring wide(std::string const& text)
-{
-   std::vector<wchar_t> decoded(text.size() + 1);
-   std::size_t const length = std::mbstowcs(decoded.data(), text.c_str(), decoded.size());
-   if (length == static_cast<std::size_t>(-1)) {
-      throw std::invalid_argument("'" + text + "' is not text in the locale's encoding");
-   }
-   return std::wstring(decoded.data(), length);
-}
 
 void runGuarded(Federate& federate, Ledger& ledger)
 {

@@ -2,13 +2,16 @@
 // position is an attribute that changes its owner, and only positions within the sea area that a
 // party watches arrive there. Both parties take their callbacks when they ask for them, so that the
 // story always runs the same way.
+#include "../Ambassador.h"
+#include "../Text.h"
+
 #include <RTI/encoding/BasicDataElements.h>
 #include <RTI/encoding/HLAfixedRecord.h>
 #include <RTI/NullFederateAmbassador.h>
 #include <RTI/RTI1516.h>
 
+#include <clocale>
 #include <iostream>
-#include <memory>
 #include <stdexcept>
 
 using namespace rti1516e;
@@ -22,8 +25,6 @@ class Party : public NullFederateAmbassador {
 public:
    Party(std::wstring const& name, std::wstring const& fomModule) : _name(name)
    {
-      RTIambassadorFactory factory;
-      _rti.reset(factory.createRTIambassador().release());
       _rti->connect(*this, HLA_EVOKED);
       try {
          _rti->createFederationExecution(federation, fomModule);
@@ -49,8 +50,11 @@ public:
    {
       say(L"launches ") << shipName << std::endl;
       _rti->reserveObjectInstanceName(shipName);
-      while (!_reserved) {
+      while (_nameState == ASKED) {
          evoke();
+      }
+      if (_nameState == REFUSED) {
+         throw std::runtime_error("the ship's name is taken");
       }
       _shipRegion = makeRegion(from, to);
       _aurora = _rti->registerObjectInstanceWithRegions(_ship, positionIn(_shipRegion), shipName);
@@ -84,6 +88,11 @@ public:
       return _rti->isAttributeOwnedByFederate(_aurora, *_position.begin());
    }
 
+   bool knowsShip() const
+   {
+      return _aurora.isValid();
+   }
+
    int reflected() const
    {
       return _reflected;
@@ -97,13 +106,7 @@ public:
 
    void leave()
    {
-      _rti->resignFederationExecution(DELETE_OBJECTS_THEN_DIVEST);
-      try {
-         _rti->destroyFederationExecution(federation);
-      } catch (FederatesCurrentlyJoined const&) {
-         // The other party will.
-      }
-      _rti->disconnect();
+      _rti.leave(federation);
    }
 
 private:
@@ -139,7 +142,12 @@ private:
 
    void objectInstanceNameReservationSucceeded(std::wstring const&) override
    {
-      _reserved = true;
+      _nameState = RESERVED;
+   }
+
+   void objectInstanceNameReservationFailed(std::wstring const&) override
+   {
+      _nameState = REFUSED;
    }
 
    void discoverObjectInstance(
@@ -155,15 +163,29 @@ private:
       discoverObjectInstance(object, objectClass, name);
    }
 
-   void reflectAttributeValues(ObjectInstanceHandle, AttributeHandleValueMap const& values,
+   void removeObjectInstance(ObjectInstanceHandle object, VariableLengthData const&, OrderType,
+         SupplementalRemoveInfo) override
+   {
+      if (object == _aurora) {
+         say(L"sees the ship no more") << std::endl;
+         _aurora = ObjectInstanceHandle();
+      }
+   }
+
+   // An update holds what its sender gave it, which may be less than all attributes.
+   void reflectAttributeValues(ObjectInstanceHandle object, AttributeHandleValueMap const& values,
          VariableLengthData const&, OrderType, TransportationType, SupplementalReflectInfo) override
    {
+      AttributeHandleValueMap::const_iterator const value = values.find(*_position.begin());
+      if (object != _aurora || value == values.end()) {
+         return;
+      }
       HLAfloat64BE position;
       HLAfloat64BE north;
       HLAfixedRecord record;
       record.appendElementPointer(&position);
       record.appendElementPointer(&north);
-      record.decode(values.at(*_position.begin()));
+      record.decode(value->second);
       ++_reflected;
       say(L"sees the ship at ") << position.get() << std::endl;
    }
@@ -190,14 +212,19 @@ private:
    }
 
    std::wstring const _name;
-   std::unique_ptr<RTIambassador> _rti;
    ObjectClassHandle _ship;
    AttributeHandleSet _position;
    DimensionHandle _seaArea;
    ObjectInstanceHandle _aurora;
    RegionHandle _shipRegion; // where the one that sails it says it is
-   bool _reserved = false;
+   enum {
+      ASKED,
+      RESERVED,
+      REFUSED
+   } _nameState = ASKED;
    int _reflected = 0;
+
+   Ambassador _rti;
 };
 
 void evokeBoth(Party& one, Party& other)
@@ -238,17 +265,20 @@ void tell(std::wstring const& fomModule)
    evokeBoth(master, pilot);
    require(master.reflected() == 1, "the master should see where the pilot takes the ship");
 
-   pilot.leave();
    master.leave();
+   pilot.evoke();
+   require(!pilot.knowsShip(), "the ship should go with the master who launched it");
+   pilot.leave();
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
+   std::setlocale(LC_ALL, "");
    std::string const module = argc > 1 ? argv[1] : HARBOUR_FOM;
    try {
-      tell(std::wstring(module.begin(), module.end()));
+      tell(wide(module));
       std::wcout << L"The ship is in harbour." << std::endl;
       return 0;
    } catch (Exception const& e) {

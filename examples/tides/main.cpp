@@ -1,5 +1,7 @@
 // A federate that keeps time by the tides, and then by a clock: what it sends comes back in
 // callbacks and results as its own kinds of time. Ends with 0 if all came back as it should.
+#include "../Ambassador.h"
+#include "../Text.h"
 #include "ClockTime.h"
 #include "TideTime.h"
 
@@ -7,6 +9,7 @@
 #include <RTI/RTI1516.h>
 #include <RTI/time/HLAfloat64TimeFactory.h>
 
+#include <clocale>
 #include <cstdlib>
 #include <iostream>
 #include <memory>
@@ -45,13 +48,10 @@ template <class Time, class Interval>
 void keepTime(std::wstring const& name, Time const& wanted, Interval const& wantedLookahead,
       std::wstring const& text)
 {
-   RTIambassadorFactory factory;
-   std::string const narrow = HARBOUR_FOM;
-   std::wstring const objectModel(narrow.begin(), narrow.end());
    Keeper keeper;
-   std::unique_ptr<RTIambassador> rti(factory.createRTIambassador().release());
+   Ambassador rti; // after what it calls, and so destroyed before
    rti->connect(keeper, HLA_EVOKED);
-   rti->createFederationExecution(L"Tides", objectModel, name);
+   rti->createFederationExecution(L"Tides", wide(HARBOUR_FOM), name);
    rti->joinFederationExecution(L"Keeper", L"Tides");
    rti->enableTimeRegulation(wantedLookahead);
    while (keeper.answers < 1) {
@@ -73,15 +73,14 @@ void keepTime(std::wstring const& name, Time const& wanted, Interval const& want
    require(lookahead == static_cast<LogicalTimeInterval const&>(wantedLookahead),
          "and the lookahead is an interval of it");
 
-   rti->resignFederationExecution(CANCEL_THEN_DELETE_THEN_DIVEST);
-   rti->destroyFederationExecution(L"Tides");
-   rti->disconnect();
+   rti.leave(L"Tides");
 }
 
 } // namespace
 
 int main()
 {
+   std::setlocale(LC_ALL, "");
    // The stand-in for the RTI's Java classes takes other names than the standard's where told.
    setenv("TARN1516_OPTION19", "-Dtarn.standin.times=TideTime", 0);
    try {

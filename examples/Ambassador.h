@@ -1,7 +1,7 @@
 // An ambassador that leaves in good order on every way out, an exception's too: it resigns,
 // disconnects, and only then is destroyed.
-#ifndef harbour_Ambassador_h
-#define harbour_Ambassador_h
+#ifndef examples_Ambassador_h
+#define examples_Ambassador_h
 
 #include <RTI/RTI1516.h>
 
