@@ -38,15 +38,24 @@ final class CallbackQueue extends CallbackSender {
    private final Deque<Callback> _waiting = new ArrayDeque<>();
    private final Set<Thread> _delivering = new HashSet<>();
    private boolean _isEnabled = true;
-   private boolean _isClosed;
+   private volatile boolean _isClosed;
    private Runnable _before = NOTHING;
 
-   CallbackQueue(int handle, boolean isImmediate) {
+   /** What to do if the thread of the immediate model dies. */
+   CallbackQueue(int handle, boolean isImmediate, Runnable onDeath) {
       super(handle);
       _handle = handle;
       _isImmediate = isImmediate;
       if (isImmediate) {
-         Thread thread = new Thread(this::deliverAll, "tarn-standin-callbacks-" + handle);
+         Thread thread = new Thread(() -> {
+            try {
+               deliverAll();
+            } finally {
+               if (!_isClosed) {
+                  onDeath.run();
+               }
+            }
+         }, "tarn-standin-callbacks-" + handle);
          thread.setDaemon(true);
          thread.start();
       }
@@ -96,7 +105,9 @@ final class CallbackQueue extends CallbackSender {
    synchronized void close() {
       stop();
       while (!_delivering.isEmpty() && !isInCallback()) {
-         waitNanos(Long.MAX_VALUE);
+         if (!waitNanos(Long.MAX_VALUE)) {
+            return;
+         }
       }
    }
 
@@ -129,7 +140,9 @@ final class CallbackQueue extends CallbackSender {
          Callback next;
          synchronized (this) {
             while (!_isClosed && (_waiting.isEmpty() || !_isEnabled)) {
-               waitNanos(Long.MAX_VALUE);
+               if (!waitNanos(Long.MAX_VALUE)) {
+                  return;
+               }
             }
             if (_isClosed) {
                return;
@@ -146,10 +159,9 @@ final class CallbackQueue extends CallbackSender {
       synchronized (this) {
          while (_isImmediate || _waiting.isEmpty() || !_isEnabled) {
             long left = deadline - System.nanoTime();
-            if (_isClosed || left <= 0) {
+            if (_isClosed || left <= 0 || !waitNanos(left)) {
                return false;
             }
-            waitNanos(left);
          }
          next = begin();
       }
@@ -179,12 +191,14 @@ final class CallbackQueue extends CallbackSender {
       }
    }
 
-   private void waitNanos(long nanos) {
+   /** False if the thread was interrupted. */
+   private boolean waitNanos(long nanos) {
       try {
          wait(nanos / 1000000, (int) (nanos % 1000000));
+         return true;
       } catch (InterruptedException interrupted) {
          Thread.currentThread().interrupt();
-         _isClosed = true;
+         return false;
       }
    }
 

@@ -28,7 +28,8 @@ final class Clock {
       return LogicalTime.earlier(limit.time, waiting);
    }
 
-   /** Decides all that can be decided now. */
+   /** Decides all that can be decided now; what lies beyond a save that waits for its time comes
+       after it. */
    void update() {
       boolean isDecided = !_federation.saveRestore().isBusy();
       while (isDecided) {
@@ -37,12 +38,7 @@ final class Clock {
             isDecided |= decide(member);
          }
       }
-   }
-
-   /** A member has got its grant. */
-   void timePassed() {
-      _federation.saveRestore().timePassed();
-      update();
+      _federation.saveRestore().beginIfTime();
    }
 
    private boolean decide(Member member) {
@@ -59,7 +55,7 @@ final class Clock {
          return true;
       }
       LogicalTime granted = time.isUndecided() ? grantable(member) : null;
-      if (granted == null) {
+      if (granted == null || _federation.saveRestore().holds(granted)) {
          return false;
       }
       time.grant(granted);

@@ -24,6 +24,7 @@ final class Discovery {
          return;
       }
       instance.knownAs.put(member, known.handle);
+      member.counts().discovered++;
       if (instance.producer != 0 && member.isToldProducer) {
          member.callbacks().discoverObjectInstance(
                instance.handle, known.handle, instance.name, instance.producer);

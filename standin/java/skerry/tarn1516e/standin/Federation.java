@@ -2,6 +2,7 @@
 package skerry.tarn1516e.standin;
 
 import hla.rti1516e.exceptions.RTIexception;
+import java.io.Serializable;
 import java.util.ArrayList;
 import java.util.Collection;
 import java.util.Collections;
@@ -14,6 +15,27 @@ import java.util.Map;
 import java.util.Set;
 
 final class Federation {
+   /** What a save keeps. */
+   private static final class State implements Serializable {
+      private static final long serialVersionUID = 1L;
+
+      final LinkedHashMap<Integer, Member> members;
+      final LinkedHashMap<String, SyncPoint> syncPoints;
+      final LinkedHashMap<Integer, ObjectInstance> instances;
+      final LinkedHashMap<Integer, Region> regions;
+      final HashSet<String> takenNames;
+      final boolean isAutoProviding;
+
+      State(Federation from) {
+         members = new LinkedHashMap<>(from._members);
+         syncPoints = new LinkedHashMap<>(from.syncPoints);
+         instances = new LinkedHashMap<>(from.instances);
+         regions = new LinkedHashMap<>(from.regions);
+         takenNames = new HashSet<>(from.takenNames);
+         isAutoProviding = from.isAutoProviding;
+      }
+   }
+
    static final Map<String, Federation> ALL = new LinkedHashMap<>();
 
    private final String _name;
@@ -200,6 +222,39 @@ final class Federation {
             _instancesByClass.getOrDefault(objectClass.handle, Collections.emptySet()));
       objectClass.children.forEach(child -> found.addAll(instancesOf(child)));
       return found;
+   }
+
+   Snapshot snapshot() {
+      return new Snapshot(members(), new State(this));
+   }
+
+   /** What came after the save is gone, but for the object model and for handles: none is given
+       twice. */
+   void restore(Snapshot saved, Map<Member, Integer> becomes) {
+      State state = (State) saved.state();
+      becomes.forEach((member, handle) ->
+            member.connection().join(state.members.get(handle)));
+      refill(_members, state.members);
+      refill(syncPoints, state.syncPoints);
+      refill(regions, state.regions);
+      instances.clear();
+      _instancesByName.clear();
+      _instancesByClass.clear();
+      takenNames.clear();
+      takenNames.addAll(state.takenNames);
+      isAutoProviding = state.isAutoProviding;
+      members().forEach(member -> member.comeBack(this));
+      regions.values().forEach(region -> region.associated = new HashSet<>());
+      for (ObjectInstance instance : state.instances.values()) {
+         add(instance);
+         instance.attributes.values().forEach(each ->
+               each.regions.forEach(region -> region.associated.add(instance)));
+      }
+   }
+
+   private static <K, V> void refill(Map<K, V> to, Map<K, V> from) {
+      to.clear();
+      to.putAll(from);
    }
 
    void finishSyncPoints() {

@@ -24,24 +24,25 @@ final class FederationService implements FederationManagement {
    public void connect(int ambassador, int callbackModel, String localSettings)
          throws RTIexception {
       _loopback.checkNotInCallback();
-      if (_loopback.isConnected()) {
+      if (_loopback.connection().isConnected()) {
          throw new AlreadyConnected("the ambassador is connected");
       }
       if (callbackModel != HLA_EVOKED && callbackModel != HLA_IMMEDIATE) {
          throw new UnsupportedCallbackModel("no callback model has the code " + callbackModel);
       }
-      _loopback.connect(ambassador, callbackModel == HLA_IMMEDIATE);
+      _loopback.connection().connect(ambassador, callbackModel == HLA_IMMEDIATE);
    }
 
    @Override
    public void disconnect() throws RTIexception {
       _loopback.checkNotInCallback();
       synchronized (Loopback.LOCK) {
-         if (_loopback.isMember()) {
+         if (_loopback.connection().member() != null) {
+            Connection.suspect();
             throw new FederateIsExecutionMember("the federate has to resign first");
          }
       }
-      _loopback.disconnect();
+      _loopback.connection().disconnect();
    }
 
    @Override
@@ -143,7 +144,7 @@ final class FederationService implements FederationManagement {
    private Federation checkJoin(String federationName) throws RTIexception {
       _loopback.checkNotInCallback();
       _loopback.callbacks();
-      if (_loopback.isMember()) {
+      if (_loopback.connection().member() != null) {
          throw new FederateAlreadyExecutionMember("the federate is a member of a federation");
       }
       Federation federation = find(federationName);
@@ -156,9 +157,9 @@ final class FederationService implements FederationManagement {
          throws RTIexception {
       federation.addModules(open(modules));
       int handle = federation.nextMemberHandle();
-      Member member = new Member(handle, name != null ? name : type + " " + handle, type,
-            federation, _loopback.callbacks());
-      _loopback.join(member);
+      Member member = new Member(
+            handle, name != null ? name : type + " " + handle, type, federation);
+      _loopback.connection().join(member);
       federation.add(member);
       return handle;
    }
@@ -187,7 +188,7 @@ final class FederationService implements FederationManagement {
       }
       member.resignDirective = action;
       member.federation().remove(member);
-      _loopback.leave();
+      _loopback.connection().leave();
    }
 
    @Override

@@ -3,10 +3,13 @@
 package skerry.tarn1516e.standin;
 
 import hla.rti1516e.exceptions.CouldNotCreateLogicalTimeFactory;
+import java.io.Serializable;
 import java.nio.ByteBuffer;
 import java.util.Arrays;
 
-final class LogicalTime implements Comparable<LogicalTime> {
+final class LogicalTime implements Comparable<LogicalTime>, Serializable {
+   private static final long serialVersionUID = 1L;
+
    static final int ENCODED_SIZE = 8;
    static final String FLOAT_NAME = "HLAfloat64Time";
 
@@ -49,6 +52,12 @@ final class LogicalTime implements Comparable<LogicalTime> {
          return new LogicalTime(true, Double.doubleToLongBits(real() + interval.real()));
       }
       return new LogicalTime(false, saturatedSum(_bits, interval._bits));
+   }
+
+   /** The interval from an earlier time. */
+   LogicalTime since(LogicalTime earlier) {
+      return _isFloat ? new LogicalTime(true, Double.doubleToLongBits(real() - earlier.real()))
+                      : new LogicalTime(false, _bits - earlier._bits);
    }
 
    boolean isZero() {

@@ -1,21 +1,16 @@
-// What one ambassador is connected to: its callbacks, its membership, and the services of each
-// group. All federations of the VM live behind one lock.
+// One ambassador: its connection, and the services of each group. All federations of the VM live
+// behind one lock.
 package skerry.tarn1516e.standin;
 
 import hla.rti1516e.exceptions.CallNotAllowedFromWithinCallback;
 import hla.rti1516e.exceptions.FederateNotExecutionMember;
-import hla.rti1516e.exceptions.NotConnected;
 import hla.rti1516e.exceptions.RTIexception;
-import hla.rti1516e.exceptions.RTIinternalError;
-import java.util.HashMap;
 import java.util.List;
-import java.util.Map;
 
 public final class Loopback {
    /** Held by every service but those that run or await callbacks. Never held in a callback. */
    public static final Object LOCK = new Object();
 
-   private static final Map<Integer, Loopback> CONNECTED = new HashMap<>();
    private static boolean _isAnnounced;
 
    public final FederationManagement federation = new FederationService(this);
@@ -26,9 +21,7 @@ public final class Loopback {
    public final DataDistributionManagement data = new RegionService(this);
    public final SupportServices support = new SupportService(this);
 
-   private CallbackQueue _callbacks;
-   private Member _member;
-   private boolean _isLost;
+   private final Connection _connection;
 
    /** The ambassador's arguments are settings, of which none is known here. */
    public Loopback(List<String> arguments) {
@@ -38,6 +31,7 @@ public final class Loopback {
                told.startsWith("throw:") ? told.substring("throw:".length()) : null);
       }
       announce();
+      _connection = new Connection(this);
    }
 
    private static void announce() {
@@ -50,91 +44,26 @@ public final class Loopback {
       }
    }
 
-   static boolean loseConnection(int handle, String faultDescription) {
-      synchronized (LOCK) {
-         Loopback lost = CONNECTED.remove(handle);
-         if (lost == null) {
-            return false;
-         }
-         if (lost._member != null) {
-            lost._member.federation().remove(lost._member);
-            lost.leave();
-         }
-         lost._isLost = true;
-         lost._callbacks.connectionLost(faultDescription);
-         return true;
-      }
-   }
-
-   void connect(int handle, boolean isImmediate) {
-      if (_callbacks != null) {
-         _callbacks.stop();
-      }
-      _callbacks = new CallbackQueue(handle, isImmediate);
-      _isLost = false;
-      CONNECTED.put(handle, this);
-   }
-
-   /** Called without the lock: the callbacks that still run may need it. */
-   void disconnect() {
-      CallbackQueue closed;
-      synchronized (LOCK) {
-         closed = _callbacks;
-         _callbacks = null;
-         if (closed != null) {
-            CONNECTED.remove(closed.handle(), this);
-         }
-      }
-      if (closed != null) {
-         closed.close();
-      }
-   }
-
-   boolean isConnected() {
-      return _callbacks != null && !_isLost;
+   Connection connection() {
+      return _connection;
    }
 
    void checkNotInCallback() throws CallNotAllowedFromWithinCallback {
-      if (_callbacks != null && _callbacks.isInCallback()) {
+      if (_connection.isInCallback()) {
          throw new CallNotAllowedFromWithinCallback("called from within a callback");
       }
    }
 
-   CallbackQueue callbacks() throws NotConnected {
-      if (!isConnected()) {
-         throw new NotConnected("the ambassador is not connected");
-      }
-      return _callbacks;
-   }
-
-   /** The callbacks for services that can't say that there is no connection. A lost connection has
-       one callback left. */
-   CallbackQueue callbacksOrFail() throws RTIinternalError {
-      if (_callbacks == null) {
-         throw new RTIinternalError("the ambassador is not connected");
-      }
-      return _callbacks;
-   }
-
-   void join(Member member) {
-      _member = member;
-   }
-
-   void leave() {
-      _callbacks.dropMemberCallbacks();
-      _member = null;
-   }
-
-   boolean isMember() {
-      return _member != null;
+   CallbackQueue callbacks() throws RTIexception {
+      return _connection.callbacks();
    }
 
    Member member() throws RTIexception {
       callbacks();
-      if (_member == null) {
+      if (_connection.member() == null) {
          throw new FederateNotExecutionMember("the federate is not a member of a federation");
       }
-      return _member;
+      return _connection.member();
    }
 
    /** The member, for the services that neither a save nor a restore lets pass. */

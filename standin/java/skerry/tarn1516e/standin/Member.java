@@ -1,11 +1,14 @@
 // A federate that has joined a federation.
 package skerry.tarn1516e.standin;
 
+import java.io.Serializable;
 import java.util.EnumSet;
 import java.util.HashSet;
 import java.util.Set;
 
-final class Member {
+final class Member implements Serializable {
+   private static final long serialVersionUID = 1L;
+
    enum Advisory {
       OBJECT_CLASS_RELEVANCE,
       ATTRIBUTE_RELEVANCE,
@@ -16,8 +19,7 @@ final class Member {
    private final int _handle;
    private final String _name;
    private final String _type;
-   private final Federation _federation;
-   private final CallbackQueue _callbacks;
+   private final Counts _counts = new Counts();
    private final Declarations _declarations = new Declarations();
    private final TimeState _time;
 
@@ -29,12 +31,16 @@ final class Member {
    boolean isToldProducer;
    boolean isToldRegions;
 
-   Member(int handle, String name, String type, Federation federation, CallbackQueue callbacks) {
+   // What a save does not keep.
+   private transient Federation _federation;
+   private transient Connection _connection;
+   private transient CallbackQueue _callbacks;
+
+   Member(int handle, String name, String type, Federation federation) {
       _handle = handle;
       _name = name;
       _type = type;
       _federation = federation;
-      _callbacks = callbacks;
       _time = new TimeState(this);
       resignDirective = federation.fom().automaticResignAction;
       adopt(Advisory.OBJECT_CLASS_RELEVANCE, "objectClassRelevanceAdvisory", true);
@@ -73,6 +79,24 @@ final class Member {
 
    CallbackQueue callbacks() {
       return _callbacks;
+   }
+
+   Connection connection() {
+      return _connection;
+   }
+
+   void attach(Connection connection, CallbackQueue callbacks) {
+      _connection = connection;
+      _callbacks = callbacks;
+   }
+
+   /** A restored member comes back into its federation. */
+   void comeBack(Federation federation) {
+      _federation = federation;
+   }
+
+   Counts counts() {
+      return _counts;
    }
 
    Declarations declarations() {

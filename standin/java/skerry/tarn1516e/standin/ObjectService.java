@@ -108,6 +108,7 @@ final class ObjectService implements ObjectManagement {
       ObjectInstance made = new ObjectInstance(
             handle, name != null ? name : "HLAinstance" + handle, found, member);
       federation.add(made);
+      member.counts().registered++;
       return made;
    }
 

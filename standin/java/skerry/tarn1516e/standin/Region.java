@@ -18,7 +18,7 @@ final class Region implements Serializable {
    final Map<Integer, Range> ranges = new HashMap<>();
 
    /** The instances whose updates go, or once went, over the region. */
-   final Set<ObjectInstance> associated = new HashSet<>();
+   transient Set<ObjectInstance> associated = new HashSet<>();
 
    private final Map<Integer, Range> _committed = new HashMap<>();
 

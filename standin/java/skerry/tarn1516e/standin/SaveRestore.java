@@ -1,5 +1,5 @@
-// Leads the members of a federation through a save or a restore. Nothing is stored: a save keeps
-// its label and who took part, and a restore changes no state.
+// Leads the members of a federation through a save or a restore. A save keeps the federation's state
+// within the process; a restore gives it back to members of the same types.
 package skerry.tarn1516e.standin;
 
 import hla.rti1516e.exceptions.*;
@@ -37,8 +37,11 @@ final class SaveRestore {
    private boolean _isFailed;
    private final Map<Member, Integer> _states = new LinkedHashMap<>();
 
-   /** The types of those who took part, sorted, by label. */
-   private final Map<String, List<String>> _saved = new HashMap<>();
+   /** By label. */
+   private final Map<String, Snapshot> _saved = new HashMap<>();
+
+   /** In a restore: the saved member that each one becomes, by handles. */
+   private final Map<Member, Integer> _becomes = new LinkedHashMap<>();
 
    SaveRestore(Federation federation) {
       _federation = federation;
@@ -73,24 +76,31 @@ final class SaveRestore {
       if (time == null) {
          beginSave(member -> member.callbacks().initiateFederateSave(label));
       } else {
-         timePassed();
+         _federation.clock().update();
       }
    }
 
-   void timePassed() {
+   /** Whether a grant to the time has to wait for a save. */
+   boolean holds(LogicalTime granted) {
+      return _awaitedTime != null && granted.compareTo(_awaitedTime) > 0;
+   }
+
+   /** Before the save everybody gets the messages up to its time. */
+   void beginIfTime() {
       if (_awaitedTime == null || isBusy()) {
          return;
       }
       for (Member member : _federation.members()) {
          TimeState time = member.time();
          if ((time.isConstrained || time.isRegulating)
-               && time.time().compareTo(_awaitedTime) < 0) {
+               && !time.isThrough(_awaitedTime, _federation.clock().limit(member))) {
             return;
          }
       }
-      byte[] time = _awaitedTime.encode();
+      LogicalTime time = _awaitedTime;
       _awaitedTime = null;
-      beginSave(member -> member.callbacks().initiateFederateSave(_label, time));
+      _federation.members().forEach(member -> member.time().deliverUpTo(time));
+      beginSave(member -> member.callbacks().initiateFederateSave(_label, time.encode()));
    }
 
    private void beginSave(Consumer<Member> tell) {
@@ -134,18 +144,12 @@ final class SaveRestore {
       if (_isFailed) {
          fail(FEDERATE_FAILED);
       } else if (_phase == Phase.SAVING) {
-         _saved.put(_label, types());
+         _saved.put(_label, _federation.snapshot());
          end(each -> each.callbacks().federationSaved());
       } else {
+         _federation.restore(_saved.get(_label), new LinkedHashMap<>(_becomes));
          end(each -> each.callbacks().federationRestored());
       }
-   }
-
-   private List<String> types() {
-      List<String> types = new ArrayList<>();
-      _federation.members().forEach(member -> types.add(member.type()));
-      types.sort(null);
-      return types;
    }
 
    /** Both kinds of failure have like codes but for the abortion. */
@@ -161,6 +165,7 @@ final class SaveRestore {
       _phase = Phase.IDLE;
       _awaitedTime = null;
       _states.clear();
+      _becomes.clear();
       _federation.members().forEach(tell);
       _federation.clock().update();
    }
@@ -183,15 +188,18 @@ final class SaveRestore {
 
    /** The members must be of the types that took part in the save. */
    void requestRestore(Member member, String label) {
-      if (!types().equals(_saved.get(label))) {
+      Snapshot saved = _saved.get(label);
+      if (saved == null || !saved.assign(_federation.members(), _becomes)) {
          member.callbacks().requestFederationRestoreFailed(label);
          return;
       }
+      _label = label;
       member.callbacks().requestFederationRestoreSucceeded(label);
       begin(Phase.RESTORING, RESTORING);
       _federation.members().forEach(each -> {
          each.callbacks().federationRestoreBegun();
-         each.callbacks().initiateFederateRestore(label, each.name(), each.handle());
+         int handle = _becomes.get(each);
+         each.callbacks().initiateFederateRestore(label, saved.members.get(handle)[0], handle);
       });
    }
 
@@ -214,8 +222,8 @@ final class SaveRestore {
       checkNoSave();
       List<int[]> states = new ArrayList<>();
       for (Member each : _federation.members()) {
-         states.add(new int[] {
-               each.handle(), each.handle(), _states.getOrDefault(each, NO_RESTORE)});
+         states.add(new int[] {each.handle(), _becomes.getOrDefault(each, each.handle()),
+               _states.getOrDefault(each, NO_RESTORE)});
       }
       member.callbacks().federationRestoreStatusResponse(states);
    }
@@ -225,6 +233,5 @@ final class SaveRestore {
       if (_states.remove(member) != null && isBusy()) {
          fail(FEDERATE_RESIGNED);
       }
-      timePassed();
    }
 }

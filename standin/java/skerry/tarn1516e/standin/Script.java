@@ -239,7 +239,16 @@ public final class Script {
    /** Breaks the connection of the ambassador with that handle: it leaves its federation, and gets
        `connectionLost`. False if no connection has the handle. */
    public static boolean loseConnection(int handle, String faultDescription) {
-      return Loopback.loseConnection(handle, faultDescription);
+      return Connection.lose(handle, faultDescription);
+   }
+
+   /** Ends all federations of the VM at once: their federates are no members any more and get no
+       callback of it. Connections stay. */
+   public static void forgetFederations() {
+      synchronized (Loopback.LOCK) {
+         Connection.leaveAll();
+         Federation.ALL.clear();
+      }
    }
 
    /** What the method answers now, thrown if it is an exception; null if the loopback is to answer.

@@ -405,7 +405,7 @@ final class SupportService implements SupportServices {
    private CallbackQueue evocable() throws RTIexception {
       synchronized (Loopback.LOCK) {
          _loopback.checkNotInCallback();
-         return _loopback.callbacksOrFail();
+         return _loopback.connection().callbacksOrFail();
       }
    }
 
@@ -420,8 +420,8 @@ final class SupportService implements SupportServices {
    }
 
    private void switchCallbacks(boolean on) throws RTIexception {
-      CallbackQueue callbacks = _loopback.callbacksOrFail();
-      if (_loopback.isMember()) {
+      CallbackQueue callbacks = _loopback.connection().callbacksOrFail();
+      if (_loopback.connection().member() != null) {
          _loopback.member().federation().saveRestore().checkIdle();
       }
       callbacks.enable(on);

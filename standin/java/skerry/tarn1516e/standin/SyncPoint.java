@@ -1,12 +1,15 @@
 // A synchronization point that is announced and not yet reached by all.
 package skerry.tarn1516e.standin;
 
+import java.io.Serializable;
 import java.util.HashSet;
 import java.util.LinkedHashSet;
 import java.util.Set;
 import java.util.TreeSet;
 
-final class SyncPoint {
+final class SyncPoint implements Serializable {
+   private static final long serialVersionUID = 1L;
+
    final String label;
    final byte[] tag;
 

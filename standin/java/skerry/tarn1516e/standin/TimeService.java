@@ -200,7 +200,7 @@ final class TimeService implements TimeManagement {
             receiver.callbacks().requestRetraction(retraction);
          }
       }
-      messages.forEach(message -> message.undo.run());
+      messages.forEach(Message::undo);
       member.federation().clock().update();
    }
 

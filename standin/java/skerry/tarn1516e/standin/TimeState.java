@@ -2,14 +2,16 @@
 // the messages that wait for its time.
 package skerry.tarn1516e.standin;
 
+import java.io.Serializable;
 import java.util.ArrayList;
-import java.util.Comparator;
 import java.util.LinkedHashMap;
 import java.util.List;
 import java.util.Map;
 import java.util.TreeSet;
 
-final class TimeState {
+final class TimeState implements Serializable {
+   private static final long serialVersionUID = 1L;
+
    /** The advance services. Some are done with their time once granted; after the others, messages
        of the same time may follow. */
    enum Advance {
@@ -53,9 +55,7 @@ final class TimeState {
    /** Whether the last grant was the last word on its time. */
    private boolean _isWhole;
 
-   private final TreeSet<Message> _queue = new TreeSet<>(
-         Comparator.<Message, LogicalTime>comparing(message -> message.time)
-               .thenComparing(message -> message.number));
+   private final TreeSet<Message> _queue = new TreeSet<>();
    private final List<Message> _held = new ArrayList<>();
 
    /** What the member sent and can still retract, by number. */
@@ -72,8 +72,9 @@ final class TimeState {
       return _time;
    }
 
+   /** While a smaller one is being approached, what is still promised. */
    LogicalTime lookahead() {
-      return _lookahead;
+      return _promised.compareTo(_time.plus(_lookahead)) > 0 ? _promised.since(_time) : _lookahead;
    }
 
    boolean isAdvancing() {
@@ -127,14 +128,14 @@ final class TimeState {
          _isWhole = false;
       }
       _member.callbacks()
-            .before(() -> isRegulationPending = false)
+            .before(ifMember(() -> isRegulationPending = false))
             .timeRegulationEnabled(_time.encode());
    }
 
    void constrain() {
       isConstrained = true;
       _member.callbacks()
-            .before(() -> isConstraintPending = false)
+            .before(ifMember(() -> isConstraintPending = false))
             .timeConstrainedEnabled(_time.encode());
    }
 
@@ -167,7 +168,16 @@ final class TimeState {
       }
       _requested = to;
       _isGranted = true;
-      _member.callbacks().before(this::arrive).timeAdvanceGrant(to.encode());
+      _member.callbacks().before(ifMember(this::arrive)).timeAdvanceGrant(to.encode());
+   }
+
+   /** Not if a restore has put another in its place since. */
+   private Runnable ifMember(Runnable action) {
+      return () -> {
+         if (_member.federation().member(_member.handle()) == _member) {
+            action.run();
+         }
+      };
    }
 
    private void arrive() {
@@ -177,7 +187,7 @@ final class TimeState {
       _isGranted = false;
       Bound bound = sendBound();
       sent.values().removeIf(messages -> bound.excludes(messages.get(0).time));
-      _member.federation().clock().timePassed();
+      _member.federation().clock().update();
    }
 
    /** Takes a message: it waits for its time, or for the next advance, or goes on at once. */
@@ -208,7 +218,33 @@ final class TimeState {
       sent.clear();
    }
 
-   private void deliverUpTo(LogicalTime last) {
+   int waiting() {
+      return _queue.size();
+   }
+
+   int held() {
+      return _held.size();
+   }
+
+   /** Whether nothing up to the time can come to the member or go from it any more, so that it can be
+       saved there: it has passed that time, or is about to ask for more. A null limit: none. */
+   boolean isThrough(LogicalTime until, Bound limit) {
+      boolean isQuiet = !isConstrained || limit == null || limit.excludes(until);
+      if (!isAdvancing()) {
+         int order = _time.compareTo(until);
+         return order > 0
+               || order == 0 && (_isWhole || isQuiet && sendBound().excludes(until));
+      }
+      return !_isGranted && isQuiet && nextStop().compareTo(until) > 0;
+   }
+
+   /** Where an advance leads at the most. */
+   private LogicalTime nextStop() {
+      return isConstrained && _advance.isToNextMessage && !_queue.isEmpty()
+            ? LogicalTime.earlier(_requested, firstWaiting()) : _requested;
+   }
+
+   void deliverUpTo(LogicalTime last) {
       while (!_queue.isEmpty() && _queue.first().time.compareTo(last) <= 0) {
          _queue.pollFirst().deliver(_member, Fom.TIMESTAMP);
       }

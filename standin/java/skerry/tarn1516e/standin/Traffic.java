@@ -1,18 +1,15 @@
-// Sends reflections, interactions and removals from one member to the others that are to get them.
+// Sends updates, interactions and removals from one member to the others that are to get them.
 package skerry.tarn1516e.standin;
 
 import hla.rti1516e.exceptions.InvalidLogicalTime;
 import java.nio.ByteBuffer;
 import java.util.ArrayList;
-import java.util.Collection;
-import java.util.Collections;
+import java.util.HashSet;
 import java.util.LinkedHashMap;
-import java.util.LinkedHashSet;
 import java.util.Map;
 import java.util.Objects;
 import java.util.Set;
 import java.util.TreeMap;
-import java.util.TreeSet;
 
 final class Traffic {
    /** Attributes travel in one message if they are alike in these. */
@@ -24,7 +21,7 @@ final class Traffic {
       Passage(ObjectInstance.Attribute attribute) {
          order = attribute.order;
          transportation = attribute.transportation;
-         regions = attribute.regions;
+         regions = new HashSet<>(attribute.regions);
       }
 
       @Override
@@ -77,12 +74,16 @@ final class Traffic {
          Passage passage = new Passage(instance.attributes.get(attribute));
          passages.computeIfAbsent(passage, none -> new TreeMap<>()).put(attribute, value);
       });
-      passages.forEach((passage, together) -> update(instance, passage, together, tag));
+      passages.forEach((passage, together) -> {
+         _sender.counts().updated(instance, passage.transportation);
+         send(new Update(envelope(passage.order, tag), instance, passage.transportation,
+               passage.regions, received(instance, together)));
+      });
    }
 
-   private void update(ObjectInstance instance, Passage passage, Map<Integer, byte[]> values,
-         byte[] tag) {
-      Map<Member, Map<Integer, byte[]>> received = new LinkedHashMap<>();
+   private LinkedHashMap<Member, Map<Integer, byte[]>> received(
+         ObjectInstance instance, Map<Integer, byte[]> values) {
+      LinkedHashMap<Member, Map<Integer, byte[]>> received = new LinkedHashMap<>();
       for (Member member : _federation.members()) {
          if (member != _sender && instance.isKnownTo(member)) {
             Map<Integer, byte[]> reaching = new TreeMap<>(values);
@@ -92,130 +93,49 @@ final class Traffic {
             }
          }
       }
-      send(passage.order, received.keySet(), (receiver, message, receivedOrder) -> {
-         if (instance.knownAs.containsKey(receiver)) {
-            reflect(receiver.callbacks(), message, receivedOrder, instance.handle,
-                  received.get(receiver), tag, passage.transportation,
-                  supplement(receiver, passage.regions));
-         }
-      });
-   }
-
-   private static void reflect(CallbackQueue callbacks, Message message, int receivedOrder,
-         int instance, Map<Integer, byte[]> values, byte[] tag, int transportation,
-         Supplement info) {
-      if (message.time == null) {
-         callbacks.reflectAttributeValues(
-               instance, values, tag, message.sentOrder, transportation, info);
-      } else if (message.retraction == 0) {
-         callbacks.reflectAttributeValues(instance, values, tag, message.sentOrder,
-               transportation, message.time.encode(), receivedOrder, info);
-      } else {
-         callbacks.reflectAttributeValues(instance, values, tag, message.sentOrder,
-               transportation, message.time.encode(), receivedOrder, message.retraction, info);
-      }
+      return received;
    }
 
    void interact(Fom.InteractionClass interaction, Map<Integer, byte[]> values,
          Set<Region> regions, byte[] tag) {
-      Map<Member, Fom.InteractionClass> received = new LinkedHashMap<>();
+      LinkedHashMap<Member, Integer> received = new LinkedHashMap<>();
       for (Member member : _federation.members()) {
          Fom.InteractionClass as = member.declarations().receivedAs(interaction);
          if (member != _sender && as != null
                && member.declarations().subscribedInteractions.get(as.handle).meets(regions)) {
-            received.put(member, as);
+            received.put(member, as.handle);
          }
       }
       int transportation = _sender.declarations().transportation(interaction);
-      send(_sender.declarations().order(interaction), received.keySet(),
-            (receiver, message, receivedOrder) -> {
-               Fom.InteractionClass as = received.get(receiver);
-               Map<Integer, byte[]> known = new TreeMap<>(values);
-               known.keySet().retainAll(as.parameters.keySet());
-               receive(receiver.callbacks(), message, receivedOrder, as.handle, known, tag,
-                     transportation, supplement(receiver, regions));
-            });
+      _sender.counts().sent(interaction.handle, transportation);
+      send(new Interaction(envelope(_sender.declarations().order(interaction), tag), values,
+            transportation, new HashSet<>(regions), received));
    }
 
-   private static void receive(CallbackQueue callbacks, Message message, int receivedOrder,
-         int interaction, Map<Integer, byte[]> values, byte[] tag, int transportation,
-         Supplement info) {
-      if (message.time == null) {
-         callbacks.receiveInteraction(
-               interaction, values, tag, message.sentOrder, transportation, info);
-      } else if (message.retraction == 0) {
-         callbacks.receiveInteraction(interaction, values, tag, message.sentOrder,
-               transportation, message.time.encode(), receivedOrder, info);
-      } else {
-         callbacks.receiveInteraction(interaction, values, tag, message.sentOrder,
-               transportation, message.time.encode(), receivedOrder, message.retraction, info);
-      }
-   }
-
-   /** The sender forgets the instance at once, the others when they get the message. */
    void remove(ObjectInstance instance, byte[] tag) {
       int order = instance.attributes.get(_federation.fom().privilegeToDelete()).order;
-      Set<Integer> owned = instance.ownedBy(_sender);
-      int knownAs = instance.knownAs.remove(_sender);
-      instance.isDeleted = true;
-      owned.forEach(attribute -> instance.attributes.get(attribute).owner = null);
-      Message sent = send(order, new LinkedHashSet<>(instance.knownAs.keySet()),
-            (receiver, message, receivedOrder) -> {
-               if (instance.isKnownTo(receiver)) {
-                  instance.forgetBy(receiver);
-                  removed(receiver.callbacks(), message, receivedOrder, instance.handle, tag,
-                        supplement(receiver, Collections.emptySet()));
-                  _federation.forgetIfGone(instance);
-               }
-            });
-      sent.undo = () -> {
-         instance.isDeleted = false;
-         instance.knownAs.put(_sender, knownAs);
-         owned.forEach(attribute -> instance.attributes.get(attribute).owner = _sender);
-         _federation.add(instance);
-      };
+      _sender.counts().deleted++;
+      send(new Removal(envelope(order, tag), instance));
       _federation.forgetIfGone(instance);
    }
 
-   private static void removed(CallbackQueue callbacks, Message message, int receivedOrder,
-         int instance, byte[] tag, Supplement info) {
-      if (message.time == null) {
-         callbacks.removeObjectInstance(instance, tag, message.sentOrder, info);
-      } else if (message.retraction == 0) {
-         callbacks.removeObjectInstance(
-               instance, tag, message.sentOrder, message.time.encode(), receivedOrder, info);
-      } else {
-         callbacks.removeObjectInstance(instance, tag, message.sentOrder, message.time.encode(),
-               receivedOrder, message.retraction, info);
-      }
-   }
-
    /** Only a regulating member's messages with a time are sent in timestamp order. */
-   private Message send(int order, Collection<Member> receivers, Message.Content content) {
-      boolean isTimestamped =
-            order == Fom.TIMESTAMP && _time != null && _sender.time().isRegulating;
-      if (isTimestamped && _retraction == 0) {
+   private Message.Envelope envelope(int order, byte[] tag) {
+      if (order != Fom.TIMESTAMP || _time == null || !_sender.time().isRegulating) {
+         return new Message.Envelope(_sender, tag, _time, Fom.RECEIVE, 0);
+      }
+      if (_retraction == 0) {
          _retraction = _federation.nextRetraction();
       }
-      Message message = new Message(_sender, _time, isTimestamped ? Fom.TIMESTAMP : Fom.RECEIVE,
-            isTimestamped ? _retraction : 0, content);
-      if (isTimestamped) {
+      return new Message.Envelope(_sender, tag, _time, Fom.TIMESTAMP, _retraction);
+   }
+
+   private void send(Message message) {
+      if (message.retraction != 0) {
          _sender.time().sent.computeIfAbsent(_retraction, none -> new ArrayList<>())
                .add(message);
       }
-      receivers.forEach(receiver -> receiver.time().receive(message));
+      message.receivers().forEach(receiver -> receiver.time().receive(message));
       _federation.clock().update();
-      return message;
-   }
-
-   private Supplement supplement(Member receiver, Set<Region> regions) {
-      Set<Integer> handles = null;
-      if (!regions.isEmpty() && receiver.isToldRegions) {
-         handles = new TreeSet<>();
-         for (Region region : regions) {
-            handles.add(region.handle);
-         }
-      }
-      return new Supplement(receiver.isToldProducer ? _sender.handle() : 0, handles);
    }
 }

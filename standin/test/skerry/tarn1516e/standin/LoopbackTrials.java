@@ -61,6 +61,7 @@ public final class LoopbackTrials {
       for (Map.Entry<String, Trick> trial : TRIALS.entrySet()) {
          System.out.println(trial.getKey());
          trial.getValue().run(harbour());
+         Script.forgetFederations();
       }
       System.out.println(TRIALS.size() + " trials passed");
    }
@@ -291,8 +292,26 @@ public final class LoopbackTrials {
             "a retract 77 ! InvalidMessageRetractionHandle");
       // A shorter lookahead counts only when what the longer one promised has passed.
       timed("lookahead", 5, "a modifyLookahead @-1 ! InvalidLookahead", "a modifyLookahead @1",
-            "b queryGALT ? @5", "a queryLookahead ? @1", "b timeAdvanceRequest @4",
-            "b: timeAdvanceGrant @4", "a timeAdvanceRequest @6", "b queryGALT ? @7");
+            "b queryGALT ? @5", "a queryLookahead ? @5", "b timeAdvanceRequest @4",
+            "b: timeAdvanceGrant @4", "a timeAdvanceRequest @3", "a: timeAdvanceGrant @3",
+            "a queryLookahead ? @2", "a timeAdvanceRequest @6", "b queryGALT ? @7",
+            "a: timeAdvanceGrant @6", "a queryLookahead ? @1");
+      // It comes before the grants beyond its time; a restore leads back there, with all as it was.
+      timed("timed save", 1, "a requestFederationSave x @2", "a updateAttributeValues s Name=1 @7 @2",
+            "a updateAttributeValues s Name=2 @7 @3", "a timeAdvanceRequest @4", "a:",
+            "b timeAdvanceRequest @4", "a: initiateFederateSave x @2",
+            "b: reflectAttributeValues s [Name=1] 1 1 @2 1 #1 from 1 | initiateFederateSave x @2",
+            "a federateSaveBegun", "a federateSaveComplete", "b federateSaveBegun",
+            "b federateSaveComplete", "a: federationSaved | timeAdvanceGrant @4",
+            "b: federationSaved | reflectAttributeValues s [Name=2] 1 1 @3 1 #2 from 1"
+                  + " | timeAdvanceGrant @4",
+            "t = a registerObjectInstance Ship", "a unconditionalAttributeOwnershipDivestiture s Name",
+            "b resignFederationExecution 4", "b join F",
+            "a requestFederationRestore x", "a federateRestoreComplete", "b federateRestoreComplete",
+            "b: federationRestoreBegun | initiateFederateRestore x B 2 2 | federationRestored"
+                  + " | reflectAttributeValues s [Name=2] 1 1 @3 1 #2 from 1 | timeAdvanceGrant @4",
+            "a getFederateName 2 ? B 2", "a isAttributeOwnedByFederate s Name ? true",
+            "a getObjectInstanceName t ! ObjectInstanceNotKnown", "b queryLookahead ? @1");
    }
 
    private static void ownershipScenes() {
@@ -506,11 +525,11 @@ public final class LoopbackTrials {
             "b getFederateName 3 ! InvalidFederateHandle", "a join F", "b getFederateName 3 ? A 3",
             "a publishObjectClassAttributes Ship Name", "s = a registerObjectInstance Ship",
             "b listFederationExecutions", "b resignFederationExecution 5",
-            "a resignFederationExecution 0");
+            "b: reportFederationExecutions [{F}:HLAinteger64Time]", "a resignFederationExecution 0");
    }
 
    private static int connection(Play play, String federate) throws Exception {
-      return play.federates.get(federate).rti.callbacksOrFail().handle();
+      return play.federates.get(federate).rti.connection().callbacksOrFail().handle();
    }
 
    private static void lostConnection(Play play) throws Exception {
@@ -519,6 +538,29 @@ public final class LoopbackTrials {
       play.act("a getTimeFactory ! NotConnected", "a: connectionLost gone",
             "b: removeObjectInstance s 0 from 1");
       same(false, Script.loseConnection(connection(play, "a"), "gone"));
+      play.act("c connect immediate", "c join F", "c publishObjectClassAttributes Ship Name",
+            "s = c registerObjectInstance Ship", "b: discoverObjectInstance s Ship HLAinstance{s} 3");
+      String thread = "tarn-standin-callbacks-" + connection(play, "c");
+      Thread.getAllStackTraces().keySet().stream().filter(each -> each.getName().equals(thread))
+            .forEach(Thread::interrupt);
+      awaitRemoval(play, "from 3");
+      play.act("d connect", "d join F", "d publishObjectClassAttributes Ship Name",
+            "s = d registerObjectInstance Ship", "b: discoverObjectInstance s Ship HLAinstance{s} 4",
+            "d disconnect ! FederateIsExecutionMember");
+      forget(play.federates.remove("d"));
+      awaitRemoval(play, "from 4");
+      Script.forgetFederations();
+      play.act("b:", "b getTimeFactory ! FederateNotExecutionMember",
+            "b createFederationExecution F HARBOUR -");
+   }
+
+   /** The federate before is lost as soon as somebody finds it gone. */
+   private static void awaitRemoval(Play play, String from) throws Exception {
+      Trial.Federate b = play.federates.get("b");
+      for (int tries = 0; tries < 100 && b.got.isEmpty(); ++tries) {
+         b.rti.support.evokeCallback(0.1);
+      }
+      play.act("b: removeObjectInstance s 0 " + from);
    }
 
    private static void immediateCallbacks(Play play) throws Exception {

@@ -23,6 +23,8 @@ final class Trial {
 
    private static final Map<Integer, Federate> FEDERATES = new HashMap<>();
 
+   private static int _handles;
+
    private Trial() {}
 
    /** An ambassador with the callbacks that it has got. */
@@ -31,8 +33,9 @@ final class Trial {
       final List<String> got = new ArrayList<>();
 
       Federate(int callbackModel) throws Exception {
-         FEDERATES.put(FEDERATES.size() + 1, this);
-         rti.federation.connect(FEDERATES.size(), callbackModel, "");
+         int handle = ++_handles;
+         FEDERATES.put(handle, this);
+         rti.federation.connect(handle, callbackModel, "");
       }
 
       /** Lets the callbacks come and compares all since the last time. */
@@ -42,6 +45,10 @@ final class Trial {
          same(Arrays.asList(callbacks), new ArrayList<>(got));
          got.clear();
       }
+   }
+
+   static void forget(Federate federate) {
+      FEDERATES.values().removeIf(each -> each == federate);
    }
 
    static void catchCallbacks() {
