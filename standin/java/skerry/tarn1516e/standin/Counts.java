@@ -17,14 +17,14 @@ final class Counts implements Serializable {
    int removed;
 
    /** By transportation, then by class. */
-   final Map<Integer, Map<Integer, Integer>> updatesSent = new TreeMap<>();
-   final Map<Integer, Map<Integer, Integer>> reflectionsReceived = new TreeMap<>();
-   final Map<Integer, Map<Integer, Integer>> interactionsSent = new TreeMap<>();
-   final Map<Integer, Map<Integer, Integer>> interactionsReceived = new TreeMap<>();
+   final TreeMap<Integer, Map<Integer, Integer>> updatesSent = new TreeMap<>();
+   final TreeMap<Integer, Map<Integer, Integer>> reflectionsReceived = new TreeMap<>();
+   final TreeMap<Integer, Map<Integer, Integer>> interactionsSent = new TreeMap<>();
+   final TreeMap<Integer, Map<Integer, Integer>> interactionsReceived = new TreeMap<>();
 
    /** The instances updated or reflected so far, by class. */
-   final Map<Integer, Set<Integer>> updated = new HashMap<>();
-   final Map<Integer, Set<Integer>> reflected = new HashMap<>();
+   final HashMap<Integer, Set<Integer>> updated = new HashMap<>();
+   final HashMap<Integer, Set<Integer>> reflected = new HashMap<>();
 
    void updated(ObjectInstance instance, int transportation) {
       add(updatesSent, transportation, instance.objectClass);

@@ -15,20 +15,20 @@ final class Declarations implements Serializable {
    private static final long serialVersionUID = 1L;
 
    /** Attributes by class. */
-   final Map<Integer, Set<Integer>> published = new HashMap<>();
-   final Set<Integer> publishedInteractions = new HashSet<>();
+   final HashMap<Integer, Set<Integer>> published = new HashMap<>();
+   final HashSet<Integer> publishedInteractions = new HashSet<>();
 
    /** By class, then by attribute. No interest in it is empty. */
-   final Map<Integer, Map<Integer, Interest>> subscribed = new HashMap<>();
-   final Map<Integer, Interest> subscribedInteractions = new HashMap<>();
+   final HashMap<Integer, Map<Integer, Interest>> subscribed = new HashMap<>();
+   final HashMap<Integer, Interest> subscribedInteractions = new HashMap<>();
 
    /** What differs from the object model, by interaction class. */
-   final Map<Integer, Integer> interactionOrders = new HashMap<>();
-   final Map<Integer, Integer> interactionTransportations = new HashMap<>();
+   final HashMap<Integer, Integer> interactionOrders = new HashMap<>();
+   final HashMap<Integer, Integer> interactionTransportations = new HashMap<>();
 
    /** The classes for which the member was told to register, or to send. */
-   final Set<Integer> toRegister = new HashSet<>();
-   final Set<Integer> toSend = new HashSet<>();
+   final HashSet<Integer> toRegister = new HashSet<>();
+   final HashSet<Integer> toSend = new HashSet<>();
 
    boolean publishes(int objectClass, int attribute) {
       return published.containsKey(objectClass)

@@ -1,6 +1,7 @@
 // An interaction on its way to those who have subscribed to its class or to one above it.
 package skerry.tarn1516e.standin;
 
+import java.util.HashSet;
 import java.util.LinkedHashMap;
 import java.util.Map;
 import java.util.Set;
@@ -11,7 +12,7 @@ final class Interaction extends Message {
 
    private final TreeMap<Integer, byte[]> _values;
    private final int _transportation;
-   private final Set<Region> _regions;
+   private final HashSet<Region> _regions;
 
    /** The class as which each receiver gets it. */
    private final LinkedHashMap<Member, Integer> _receivedAs;
@@ -21,7 +22,7 @@ final class Interaction extends Message {
       super(envelope);
       _values = new TreeMap<>(values);
       _transportation = transportation;
-      _regions = regions;
+      _regions = new HashSet<>(regions);
       _receivedAs = receivedAs;
    }
 

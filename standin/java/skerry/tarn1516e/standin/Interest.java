@@ -7,7 +7,6 @@ import java.util.ArrayList;
 import java.util.Collection;
 import java.util.LinkedHashMap;
 import java.util.List;
-import java.util.Map;
 import java.util.Set;
 
 final class Interest implements Serializable {
@@ -29,7 +28,7 @@ final class Interest implements Serializable {
 
    /** Null if there is none. */
    private Subscription _whole;
-   private final Map<Region, Subscription> _overRegions = new LinkedHashMap<>();
+   private final LinkedHashMap<Region, Subscription> _overRegions = new LinkedHashMap<>();
 
    void subscribe(Subscription over) {
       _whole = over;

@@ -4,7 +4,6 @@ package skerry.tarn1516e.standin;
 import java.io.Serializable;
 import java.util.EnumSet;
 import java.util.HashSet;
-import java.util.Set;
 
 final class Member implements Serializable {
    private static final long serialVersionUID = 1L;
@@ -23,8 +22,8 @@ final class Member implements Serializable {
    private final Declarations _declarations = new Declarations();
    private final TimeState _time;
 
-   final Set<Advisory> advisories = EnumSet.noneOf(Advisory.class);
-   final Set<String> reservedNames = new HashSet<>();
+   final EnumSet<Advisory> advisories = EnumSet.noneOf(Advisory.class);
+   final HashSet<String> reservedNames = new HashSet<>();
    int resignDirective;
 
    /** Whether messages tell the member who sent them, and over which regions. */

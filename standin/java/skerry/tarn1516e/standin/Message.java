@@ -20,7 +20,7 @@ abstract class Message implements Serializable, Comparable<Message> {
    final int retraction;
 
    /** Who has got it. Kept for messages that can be retracted. */
-   final Set<Member> deliveredTo = new HashSet<>();
+   final HashSet<Member> deliveredTo = new HashSet<>();
 
    /** Counts up, so that messages of one time keep their order. */
    private final long _number;

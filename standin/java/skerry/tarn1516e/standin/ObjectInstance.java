@@ -35,7 +35,7 @@ final class ObjectInstance implements Serializable {
       int transportation;
 
       /** Where its updates go; the whole space if empty. */
-      final Set<Region> regions = new HashSet<>();
+      final HashSet<Region> regions = new HashSet<>();
 
       /** Whether the owner offers it, and has been asked to confirm that it goes. */
       boolean isOffered;
@@ -43,10 +43,10 @@ final class ObjectInstance implements Serializable {
       byte[] offerTag = {};
 
       /** Who wants it, in the order of asking. */
-      final Map<Member, Request> acquirers = new LinkedHashMap<>();
+      final LinkedHashMap<Member, Request> acquirers = new LinkedHashMap<>();
 
       /** Who has been asked to take it since it was offered or left alone. */
-      final Set<Member> askedToAssume = new HashSet<>();
+      final HashSet<Member> askedToAssume = new HashSet<>();
 
       private final int _declaredOrder;
       private final int _declaredTransportation;
@@ -81,18 +81,18 @@ final class ObjectInstance implements Serializable {
 
    /** A federate handle; 0 for the RTI itself. */
    final int producer;
-   final Map<Integer, Attribute> attributes = new TreeMap<>();
+   final TreeMap<Integer, Attribute> attributes = new TreeMap<>();
 
    /** Deleted instances last until the last member that knows them has been told. */
    boolean isDeleted;
 
    /** The class as which each member knows it. */
-   final Map<Member, Integer> knownAs = new HashMap<>();
+   final HashMap<Member, Integer> knownAs = new HashMap<>();
 
    /** What each member was last told to be in its scope, and which of its attributes to be wanted
        with which rate. */
-   final Map<Member, Set<Integer>> toldInScope = new HashMap<>();
-   final Map<Member, Map<Integer, String>> toldWanted = new HashMap<>();
+   final HashMap<Member, Set<Integer>> toldInScope = new HashMap<>();
+   final HashMap<Member, Map<Integer, String>> toldWanted = new HashMap<>();
 
    /** The producer owns what it publishes and, always, the privilege to delete. */
    ObjectInstance(int handle, String name, Fom.ObjectClass objectClass, Member producer) {

@@ -15,12 +15,12 @@ final class Region implements Serializable {
    final Member creator;
 
    /** By dimension. */
-   final Map<Integer, Range> ranges = new HashMap<>();
+   final HashMap<Integer, Range> ranges = new HashMap<>();
 
    /** The instances whose updates go, or once went, over the region. */
-   transient Set<ObjectInstance> associated = new HashSet<>();
+   transient HashSet<ObjectInstance> associated = new HashSet<>();
 
-   private final Map<Integer, Range> _committed = new HashMap<>();
+   private final HashMap<Integer, Range> _committed = new HashMap<>();
 
    Region(int handle, Member creator, Set<Integer> dimensions) {
       this.handle = handle;

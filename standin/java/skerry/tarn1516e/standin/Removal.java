@@ -4,6 +4,7 @@ package skerry.tarn1516e.standin;
 import java.util.Collections;
 import java.util.LinkedHashSet;
 import java.util.Set;
+import java.util.TreeSet;
 
 final class Removal extends Message {
    private static final long serialVersionUID = 1L;
@@ -13,14 +14,14 @@ final class Removal extends Message {
 
    /** What the sender had before. */
    private final int _knownAs;
-   private final Set<Integer> _owned;
+   private final TreeSet<Integer> _owned;
 
    /** The sender forgets the instance at once, the others when they get the message. */
    Removal(Envelope envelope, ObjectInstance instance) {
       super(envelope);
       _instance = instance;
       _knownAs = instance.knownAs.get(sender);
-      _owned = instance.ownedBy(sender);
+      _owned = new TreeSet<>(instance.ownedBy(sender));
       instance.forgetBy(sender);
       instance.isDeleted = true;
       _owned.forEach(attribute -> instance.attributes.get(attribute).owner = null);

@@ -4,7 +4,6 @@ package skerry.tarn1516e.standin;
 import java.io.Serializable;
 import java.util.HashSet;
 import java.util.LinkedHashSet;
-import java.util.Set;
 import java.util.TreeSet;
 
 final class SyncPoint implements Serializable {
@@ -16,9 +15,9 @@ final class SyncPoint implements Serializable {
    /** Whether members that join later take part. */
    final boolean isForAll;
 
-   private final Set<Member> _members = new LinkedHashSet<>();
-   private final Set<Member> _reached = new HashSet<>();
-   private final Set<Integer> _failed = new TreeSet<>();
+   private final LinkedHashSet<Member> _members = new LinkedHashSet<>();
+   private final HashSet<Member> _reached = new HashSet<>();
+   private final TreeSet<Integer> _failed = new TreeSet<>();
 
    SyncPoint(String label, byte[] tag, boolean isForAll) {
       this.label = label;

@@ -6,7 +6,6 @@ import java.io.Serializable;
 import java.util.ArrayList;
 import java.util.LinkedHashMap;
 import java.util.List;
-import java.util.Map;
 import java.util.TreeSet;
 
 final class TimeState implements Serializable {
@@ -56,10 +55,10 @@ final class TimeState implements Serializable {
    private boolean _isWhole;
 
    private final TreeSet<Message> _queue = new TreeSet<>();
-   private final List<Message> _held = new ArrayList<>();
+   private final ArrayList<Message> _held = new ArrayList<>();
 
    /** What the member sent and can still retract, by number. */
-   final Map<Integer, List<Message>> sent = new LinkedHashMap<>();
+   final LinkedHashMap<Integer, List<Message>> sent = new LinkedHashMap<>();
 
    TimeState(Member member) {
       _member = member;

@@ -16,7 +16,7 @@ final class Traffic {
    private static final class Passage {
       final int order;
       final int transportation;
-      final Set<Region> regions;
+      final HashSet<Region> regions;
 
       Passage(ObjectInstance.Attribute attribute) {
          order = attribute.order;
@@ -109,7 +109,7 @@ final class Traffic {
       int transportation = _sender.declarations().transportation(interaction);
       _sender.counts().sent(interaction.handle, transportation);
       send(new Interaction(envelope(_sender.declarations().order(interaction), tag), values,
-            transportation, new HashSet<>(regions), received));
+            transportation, regions, received));
    }
 
    void remove(ObjectInstance instance, byte[] tag) {

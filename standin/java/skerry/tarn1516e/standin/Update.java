@@ -1,6 +1,7 @@
 // New values of an instance's attributes, on their way to those who have subscribed to them.
 package skerry.tarn1516e.standin;
 
+import java.util.HashSet;
 import java.util.LinkedHashMap;
 import java.util.Map;
 import java.util.Set;
@@ -10,12 +11,12 @@ final class Update extends Message {
 
    private final ObjectInstance _instance;
    private final int _transportation;
-   private final Set<Region> _regions;
+   private final HashSet<Region> _regions;
 
    /** What each receiver gets of them. */
    private final LinkedHashMap<Member, Map<Integer, byte[]>> _received;
 
-   Update(Envelope envelope, ObjectInstance instance, int transportation, Set<Region> regions,
+   Update(Envelope envelope, ObjectInstance instance, int transportation, HashSet<Region> regions,
          LinkedHashMap<Member, Map<Integer, byte[]>> received) {
       super(envelope);
       _instance = instance;
