@@ -11,10 +11,12 @@ from pathlib import Path
 import adapter_writer
 import cpp_writer
 import java_writer
+import record_writer
 import rows
 
 ROOT = Path(__file__).resolve().parent.parent.parent
-FOLDERS = ("bridge/generated", "gen/cpp_generated", "standin/generated")
+FOLDERS = ("bridge/generated", "gen/cpp_generated", "record/generated",
+           "standin/generated")
 
 
 def wanted():
@@ -22,7 +24,9 @@ def wanted():
     callbacks = rows.read_callbacks()
     exceptions = rows.read_exceptions()
     texts = cpp_writer.files(services, tails, callbacks)
-    texts.update(adapter_writer.files(rows.read_operations()))
+    operations = rows.read_operations()
+    texts.update(adapter_writer.files(operations))
+    texts.update(record_writer.files(operations, callbacks))
     texts.update(java_writer.files(services, callbacks, exceptions))
     return texts
 
