@@ -48,6 +48,22 @@ std::atomic<Name const*>* find(unsigned long long key)
    return nullptr;
 }
 
+// Whether a handle has the name already. The text may differ only where it is not plain.
+bool isKnown(unsigned long long key, std::wstring const& name)
+{
+   std::atomic<Name const*>* const slot = find(key);
+   Name const* const there = slot != nullptr ? slot->load(std::memory_order_acquire) : nullptr;
+   if (there == nullptr || there->size != name.size()) {
+      return false;
+   }
+   for (std::size_t i = 0; i < name.size(); ++i) {
+      if (static_cast<wchar_t>(there->text[i]) != name[i]) {
+         return false;
+      }
+   }
+   return true;
+}
+
 } // namespace
 
 Name const* findName(int ambassador, Kind kind, int handle)
@@ -58,12 +74,15 @@ Name const* findName(int ambassador, Kind kind, int handle)
 
 void learnName(int ambassador, Kind kind, int handle, std::wstring const& name)
 {
+   unsigned long long const key = keyOf(ambassador, kind, handle);
+   if (isKnown(key, name)) {
+      return;
+   }
    char buffer[8 * longestName + Text::reserve];
    Text text(buffer, buffer + sizeof buffer);
    for (std::size_t i = 0; i < name.size() && i < longestName; ++i) {
       text.escaped(name[i]);
    }
-   unsigned long long const key = keyOf(ambassador, kind, handle);
    std::lock_guard<std::mutex> const guard(mutex);
    std::atomic<Name const*>* const slot = find(key);
    if (slot == nullptr || made == mostNames) {

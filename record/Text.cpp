@@ -13,13 +13,25 @@ std::size_t const mostCharacters = 200; // of a string
 
 char const hexDigits[] = "0123456789abcdef";
 
-// Writes the digits before `end` and gives the first of them.
+char const pairs[] = //
+      "00010203040506070809101112131415161718192021222324252627282930313233343536373839"
+      "40414243444546474849505152535455565758596061626364656667686970717273747576777879"
+      "8081828384858687888990919293949596979899";
+
+// Writes the digits before `end`, two at a time, and gives the first of them.
 char* digits(unsigned long long value, char* end)
 {
-   do {
-      *--end = static_cast<char>('0' + value % 10);
-      value /= 10;
-   } while (value != 0);
+   while (value >= 100) {
+      end -= 2;
+      std::memcpy(end, pairs + 2 * (value % 100), 2);
+      value /= 100;
+   }
+   if (value >= 10) {
+      end -= 2;
+      std::memcpy(end, pairs + 2 * value, 2);
+   } else {
+      *--end = static_cast<char>('0' + value);
+   }
    return end;
 }
 
@@ -49,8 +61,10 @@ void Text::time(unsigned long long nanoseconds)
 
 void Text::number(double value)
 {
-   if (std::isfinite(value) && value == std::floor(value) && std::fabs(value) < 1e15) {
-      number(static_cast<long long>(value));
+   // Most have few decimals; these are written without the C library.
+   double const millionths = value * 1e6;
+   if (std::fabs(millionths) < 1e15 && millionths == std::floor(millionths)) {
+      putMillionths(static_cast<long long>(millionths));
       return;
    }
    char buffer[40];
@@ -59,16 +73,33 @@ void Text::number(double value)
    put(buffer, static_cast<std::size_t>(size));
 }
 
+void Text::putMillionths(long long value)
+{
+   if (value < 0) {
+      put('-');
+      value = -value;
+   }
+   number(value / 1000000);
+   value %= 1000000;
+   if (value != 0) {
+      put('.');
+   }
+   for (long long place = 100000; value != 0; place /= 10) {
+      put(static_cast<char>('0' + value / place));
+      value %= place;
+   }
+}
+
 void Text::quoted(std::wstring const& text)
 {
    put('"');
+   std::size_t const shown = text.size() < mostCharacters ? text.size() : mostCharacters;
    std::size_t written = 0;
-   for (wchar_t const c : text) {
-      if (written++ == mostCharacters || !hasRoom(16)) {
-         put("\xe2\x80\xa6"); // an ellipsis
-         break;
-      }
-      escaped(c);
+   for (; written < shown && hasRoom(16); ++written) {
+      escaped(text[written]);
+   }
+   if (written < text.size()) {
+      put("\xe2\x80\xa6"); // an ellipsis
    }
    put('"');
 }
@@ -82,13 +113,11 @@ void Text::quoted(char const* text)
    put('"');
 }
 
-void Text::escaped(wchar_t wide)
+void Text::escapedSpecial(wchar_t wide)
 {
    unsigned long c = static_cast<unsigned long>(wide);
-   if (c >= 0x20 && c < 0x80) {
-      if (c == '"' || c == '\\') {
-         put('\\');
-      }
+   if (c == '"' || c == '\\') {
+      put('\\');
       put(static_cast<char>(c));
    } else if (c < 0x20) {
       char const escape[] = {'\\', 'u', '0', '0', hexDigits[c >> 4], hexDigits[c & 15]};

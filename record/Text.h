@@ -60,7 +60,14 @@ public:
    void quoted(char const* text);
 
    // The same without the quotes.
-   void escaped(wchar_t c);
+   void escaped(wchar_t c)
+   {
+      if (c >= L' ' && c < 0x80 && c != L'"' && c != L'\\') {
+         put(static_cast<char>(c));
+      } else {
+         escapedSpecial(c);
+      }
+   }
 
    std::size_t size() const
    {
@@ -68,6 +75,9 @@ public:
    }
 
 private:
+   void escapedSpecial(wchar_t c);
+   void putMillionths(long long value);
+
    char* _begin;
    char* _at;
    char* _limit;

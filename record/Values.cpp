@@ -7,6 +7,7 @@
 #include <RTI/time/HLAinteger64Time.h>
 
 #include <cstdlib>
+#include <cstring>
 #include <cxxabi.h>
 #include <typeinfo>
 
@@ -114,7 +115,9 @@ void showName(Place const& to, char const* const (&names)[Size], Value value, in
 {
    int const place = static_cast<int>(value) - first;
    if (place >= 0 && place < static_cast<int>(Size)) {
-      to.text.quoted(names[place]);
+      to.text.put('"');
+      to.text.put(names[place], std::strlen(names[place]));
+      to.text.put('"');
    } else {
       to.text.number(static_cast<long long>(value));
    }
