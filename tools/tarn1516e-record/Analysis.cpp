@@ -48,7 +48,12 @@ std::vector<Wait> findWaits(Trace const& trace)
       Call const& call = trace.calls[i];
       auto const before = pending.find(call.ambassador);
       if (isAdvanceRequest(call)) {
-         if (call.exception.empty()) {
+         if (!call.exception.empty()) {
+            continue;
+         }
+         if (before != pending.end()) { // the grant was not seen, and can't come any more
+            waits[before->second].request = i;
+         } else {
             pending[call.ambassador] = waits.size();
             waits.push_back(Wait{i, Call::none});
          }

@@ -1,0 +1,236 @@
+#!/usr/bin/env python3
+"""Tries the recorder: federates run under it as without it, what it records is what they did, and
+nothing that goes wrong with the recording touches them.
+
+   record.py RECORDER EXAMPLES [CONTRACT_TESTS]
+"""
+
+import json
+import re
+import shutil
+import signal
+import struct
+import subprocess
+import sys
+import tempfile
+import time
+import zlib
+from collections import Counter
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parent.parent.parent
+sys.path.insert(0, str(ROOT / "gen/generator"))
+import rows  # noqa: E402
+
+RECORDER, EXAMPLES = sys.argv[1], Path(sys.argv[2])
+faults = []
+
+
+def check(what, right, seen=""):
+    if not right:
+        faults.append(what)
+        print(f"{what}: {str(seen)[-1500:]}")
+
+
+def run(*command):
+    done = subprocess.run([str(part) for part in command], text=True, check=False,
+                          stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+    errors = [line for line in done.stderr.splitlines() if line.startswith("tarn1516e-record: ")]
+    return done.returncode, done.stdout, errors
+
+
+def record(trace, *command, options=()):
+    return run(RECORDER, "--output", trace, *options, "--", *command)
+
+
+def events(trace, category):
+    return [event for event in json.loads(trace.read_text()) if event.get("cat") == category]
+
+
+def check_events(trace):
+    """Each begin has its end, and bears a row's name with that row's arguments."""
+    known = set()
+    for row in rows.read_operations() + rows.read_callbacks():
+        known.add((row.name, "rti", *(field.name for field in row.fields)))
+    stacks, last = {}, {}
+    for event in json.loads(trace.read_text()):
+        if event["ph"] == "M":
+            continue
+        thread = event["tid"]
+        check("times go on", last.get(thread, 0) <= event["ts"], event)
+        last[thread] = event["ts"]
+        if event["ph"] == "B":
+            stacks.setdefault(thread, []).append(event)
+            shape = (event["name"], *event["args"])
+            check("a row", event["cat"] == "start" or shape in known, shape)
+        else:
+            check("an end without a begin", stacks.get(thread) and stacks[thread].pop(), event)
+    check("all have ended", not any(stacks.values()), stacks)
+
+
+def try_examples(folder):
+    trace = folder / "run with spaces.json"
+    status, output, errors = record(trace, EXAMPLES / "demo")
+    counts = re.search(r"(\d+) services called, (\d+) callbacks received", output)
+    recorded = (len(events(trace, "service")), len(events(trace, "callback")))
+    check("the demo", status == 0 and not errors and "0 differences" in output, output)
+    check("its counts", counts and recorded == tuple(map(int, counts.groups())), recorded)
+    check_events(trace)
+    names = {event["args"].get("theObject") for event in events(trace, "service")}
+    check("a name from a look-up", "MS Pilot<1>" in names, names)
+    # The story of the pilotage always runs the same way, and so it does without room on the disk.
+    story = (ROOT / "tests/examples/pilotage.txt").read_text()
+    for output_file, status, complaint in (
+            (folder / "%p.json", 0, ""), ("/dev/full", 2, "No space left on device")):
+        found, told, errors = record(output_file, EXAMPLES / "pilotage")
+        check(f"pilotage to {output_file}", (found, told) == (status, story), told)
+        check(f"told of {output_file}", [complaint in line for line in errors] == [True] * (status // 2),
+              errors)
+    written = [path for path in folder.glob("*.json") if path.stem.isdigit()]
+    check("a file by the process's number", len(written) == 1, written)
+    values = [value for event in events(written[0], "callback")
+              for value in event["args"].get("theAttributeValues", {}).values()]
+    check("sizes alone", values and all(re.fullmatch(r"\d+ bytes", v) for v in values), values)
+    record(trace, EXAMPLES / "pilotage", options=("--values", "4"))
+    shown = json.dumps(events(trace, "callback"))
+    check("values as bytes", re.search(r'"\d+ bytes [0-9a-f]{8}', shown), shown)
+
+
+def try_troubles(folder):
+    trace, page = folder / "trouble.json", folder / "trouble.html"
+    for trouble, report, mark in (
+            ("grant", "! no grant in the last .* Ship: timeAdvanceRequest", 'class="missing" d="M1'),
+            ("exception", r"10  updateAttributeValues: AttributeNotOwned", 'rect class="failed"'),
+            ("chatty", r"Ship.Name +50 +12000 +50 +12000", 'rect class="callback"')):
+        record(trace, EXAMPLES / "troubles", trouble)
+        status, output, errors = run(RECORDER, "--report", trace)
+        check(f"report of {trouble}", status == 0 and not errors and re.search(report, output), output)
+        status, _, _ = run(RECORDER, "--html", page, trace)
+        check(f"page of {trouble}", status == 0 and mark in page.read_text())
+    # A federate that is killed while it waits: what it did stands in a whole file.
+    federate = subprocess.Popen(
+        [RECORDER, "-o", trace, "--", EXAMPLES / "troubles", "grant", "100000"],
+        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    deadline = time.monotonic() + 60
+    while "timeAdvanceRequest" not in trace.read_text() and time.monotonic() < deadline:
+        time.sleep(0.2)
+    pid = json.loads(trace.read_text())[0]["pid"]
+    subprocess.run(["kill", "-KILL", str(pid)], check=True)
+    check("status of a killed federate", federate.wait() == 128 + signal.SIGKILL)
+    status, output, _ = run(RECORDER, "--report", trace)
+    check("a killed federate", status == 0 and "no grant" in output, output)
+
+
+def try_many(folder):
+    trace, page = folder / "many.json", folder / "many.html"
+    record(trace, EXAMPLES / "troubles", "chatty", "17000")
+    check("a hundred thousand events", len(json.loads(trace.read_text())) > 100000)
+    run(RECORDER, "--html", page, trace)
+    check("a page that stays small", 10000 < page.stat().st_size < 500000, page.stat())
+    outside = re.findall(r"https?:|src=|href=|url\(|@import", page.read_text())
+    check("nothing from outside", not outside, outside)
+    status, output, errors = record(
+        trace, EXAMPLES / "troubles", "chatty", options=("--limit", "9K"))
+    check("a limit", status == 0 and "sailed" in output and "limit is reached" in errors[0], errors)
+    check("its size", 4000 < trace.stat().st_size <= 9216 and json.loads(trace.read_text()))
+
+
+def try_bad_input(folder):
+    trace = folder / "good.json"
+    record(trace, EXAMPLES / "troubles", "exception")
+    whole = trace.read_bytes()
+    files = {"cut.json": whole[:len(whole) // 2], "empty.json": b"", "text.json": b"hello\n",
+             "other.json": b'[{"ph":"B","name":"x","pid":1,"tid":1,"ts":1}]',
+             "object.json": b"{}", "ended.json": whole.replace(b'"ph":"B"', b'"ph":"E"')}
+    for name, content in files.items():
+        (folder / name).write_bytes(content)
+    for arguments, complaint in (
+            (("--report", "cut.json"), r"cut.json breaks off or is damaged at byte \d+"),
+            (("--report", "empty.json"), "empty.json: is empty"),
+            (("--report", "text.json"), "text.json: is no recording"),
+            (("--report", "other.json"), "other.json: is no recording"),
+            (("--report", "object.json"), "object.json: is no recording"),
+            (("--report", "ended.json"), "ended.json: has a call that ends before it begins"),
+            (("--report", "missing.json"), "missing.json: No such file"),
+            (("--html", "none/page.html", "good.json"), "none/page.html: can't be written"),
+            (("--html", "/dev/full", "good.json"), "/dev/full: can't be written"),
+            (("--limit", "much", "--", "true"), "no size is 'much'"),
+            (("--values", "-1", "--", "true"), "can be shown, not '-1'"),
+            ((), "nothing to do"),
+            (("--output", "none/run.json", "--", "true"), "none/run.json: No such file"),
+            (("--", "none/federate"), "none/federate: No such file"),
+            (("--", "good.json"), "good.json: Permission denied")):
+        local = [folder / part if part.endswith((".json", ".html")) or part.startswith("none")
+                 else part for part in arguments]
+        status, output, errors = run(RECORDER, *local)
+        told = len(errors) == 1 and re.search(complaint, errors[0])
+        check(f"{arguments}", status == 2 and told, errors)
+        check("tables of what there is", ("Services" in output) == ("cut.json" in arguments), output)
+    for command, status in (("exit 7", 7), ("kill -TERM $$", 128 + signal.SIGTERM)):
+        check(command, record(trace, "sh", "-c", command)[0] == status)
+
+
+def pixels(picture):
+    """The colours of a PNG of 8 bits a channel, each with how often it is there."""
+    data, at, packed = picture.read_bytes(), 8, b""
+    while at < len(data):
+        size, kind = struct.unpack(">I4s", data[at:at + 8])
+        if kind == b"IHDR":
+            width, _, _, colour = struct.unpack(">IIBB", data[at + 8:at + 18])
+        packed += data[at + 8:at + 8 + size] if kind == b"IDAT" else b""
+        at += size + 12
+    step = 4 if colour == 6 else 3
+    lines, above, counts = zlib.decompress(packed), bytearray(width * step), Counter()
+    for start in range(0, len(lines), width * step + 1):
+        how, line = lines[start], bytearray(lines[start + 1:start + 1 + width * step])
+        for i in range(len(line) if how else 0):
+            left, corner = (line[i - step], above[i - step]) if i >= step else (0, 0)
+            up = above[i]
+            nearest = min((left, up, corner), key=lambda value: abs(left + up - corner - value))
+            line[i] = (line[i] + (0, left, up, (left + up) // 2, nearest)[how]) & 255
+        counts.update(bytes(line[i:i + 3]) for i in range(0, len(line), step))
+        above = line
+    return counts
+
+
+def try_browser(folder):
+    browser = shutil.which("chromium")
+    if browser is None:
+        return
+    record(folder / "run.json", EXAMPLES / "demo")
+    run(RECORDER, "--html", folder / "run.html", folder / "run.json")
+    run("timeout", 60, browser, "--headless", "--no-sandbox", "--disable-gpu", "--disable-quic",
+        "--no-first-run", "--disable-background-networking", "--disable-component-update",
+        "--disable-sync", f"--user-data-dir={folder}/profile", "--window-size=1240,900",
+        f"--screenshot={folder}/run.png", f"file://{folder}/run.html")
+    seen = pixels(folder / "run.png")
+    for what, colour in (("services", "3f7fbf"), ("callbacks", "3b9c6d"), ("stairs", "1d2730")):
+        check(f"{what} in a browser", seen[bytes.fromhex(colour)] > 100, seen.most_common(9))
+
+
+def try_contract(folder, program):
+    """The contract holds through the recorder: results, exceptions, arguments of callbacks."""
+    status, output, errors = record(
+        folder / "contract.json", program, "--gtest_filter=Services.*:Ladders.*:Callbacks.*")
+    check("the contract", status == 0 and not errors, output)
+    check_events(folder / "contract.json")
+    called = {event["name"] for category in ("service", "callback")
+              for event in events(folder / "contract.json", category)}
+    wanted = {row.service.operation.name for row in rows.read_operations() if row.service}
+    wanted |= {row.name for row in rows.read_callbacks()}
+    check("everything is recorded", wanted <= called, wanted - called)
+
+
+def main():
+    with tempfile.TemporaryDirectory(prefix="tarn-record-") as folder:
+        folder = Path(folder)
+        for trial in (try_examples, try_troubles, try_many, try_bad_input, try_browser):
+            trial(folder)
+        if len(sys.argv) > 3:
+            try_contract(folder, sys.argv[3])
+    print(f"{len(faults)} faults")
+    sys.exit(1 if faults else 0)
+
+
+if __name__ == "__main__":
+    main()
