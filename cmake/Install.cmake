@@ -2,7 +2,8 @@
 #
 #    versioninfo.txt            marks it as a home
 #    bin/tarn1516e-check        tells why a federate does not start
-#    share/man/                 its manual page
+#    bin/tarn1516e-record       runs a federate and records what it does
+#    share/man/                 their manual pages
 #    include/                   the public headers
 #    lib/<toolchain>/           the libraries
 #    lib/cmake/, lib/pkgconfig/ what builds against them ask for
@@ -28,6 +29,11 @@ install(TARGETS rti1516e rti1516e-own-time fedtime1516e EXPORT tarn1516e
 install(FILES ${PROJECT_BINARY_DIR}/versioninfo.txt DESTINATION . COMPONENT runtime)
 install(TARGETS tarn1516e-check EXPORT tarn1516e RUNTIME DESTINATION bin COMPONENT runtime)
 install(FILES docs/tarn1516e-check.1 DESTINATION share/man/man1 COMPONENT runtime)
+if(TARGET tarn1516e-record)
+   install(TARGETS rti1516e-record LIBRARY DESTINATION ${LIBRARY_DIR} COMPONENT runtime)
+   install(TARGETS tarn1516e-record RUNTIME DESTINATION bin COMPONENT runtime)
+   install(FILES docs/tarn1516e-record.1 DESTINATION share/man/man1 COMPONENT runtime)
+endif()
 if(TARN_INSTALL_JRE_LINK)
    file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/install)
    file(CREATE_LINK ${TARN_JRE_LINK} ${PROJECT_BINARY_DIR}/install/jre SYMBOLIC)
@@ -67,7 +73,7 @@ install(FILES README.md CHANGELOG.md CONTRIBUTING.md SECURITY.md
    DESTINATION share/doc/tarn1516e COMPONENT documents)
 install(FILES standin/README.md DESTINATION share/doc/tarn1516e/standin COMPONENT documents)
 install(DIRECTORY docs DESTINATION share/doc/tarn1516e COMPONENT documents
-   FILES_MATCHING PATTERN *.md PATTERN *.svg)
+   FILES_MATCHING PATTERN *.md PATTERN *.svg PATTERN *.png)
 install(DIRECTORY examples/ DESTINATION share/tarn1516e/examples COMPONENT documents)
 
 if(PROJECT_IS_TOP_LEVEL)

@@ -449,9 +449,14 @@ void showClass(Text& text, std::type_info const& type)
    std::unique_ptr<char, void (*)(void*)> const plain(
          abi::__cxa_demangle(type.name(), nullptr, nullptr, &status), std::free);
    std::string const name = plain != nullptr ? plain.get() : type.name();
-   std::string const space = "rti1516e::";
-   text.quoted(
-         name.compare(0, space.size(), space) == 0 ? name.c_str() + space.size() : name.c_str());
+   char const* shown = name.c_str();
+   for (std::string const& space :
+         {std::string("rti1516e::"), std::string("(anonymous namespace)::")}) {
+      if (name.compare(0, space.size(), space) == 0) {
+         shown += space.size();
+      }
+   }
+   text.quoted(shown);
 }
 
 #define TARN_LEARN(Class)                                                                          \

@@ -8,7 +8,7 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent.parent
 ROOMS = ("api", "bench", "bridge", "encoding", "examples", "fedtime", "fuzz", "gen", "jvm",
-         "runtime", "tests", "time", "tools")
+         "record", "runtime", "tests", "time", "tools")
 
 
 def main():

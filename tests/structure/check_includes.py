@@ -17,6 +17,7 @@ MAY_INCLUDE = {
     "fedtime": ("api/",),
     "gen": ("api/", "jvm/"),
     "bridge": ("api/", "jvm/", "gen/"),
+    "record": ("api/",),
     "tools": ("api/", "jvm/"),
 }
 JNI_ROOMS = ("jvm", "gen", "bridge", "tools")

@@ -11,7 +11,8 @@ from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent.parent
-ROOMS = ("api", "bridge", "encoding", "fedtime", "gen", "jvm", "runtime", "time")
+ROOMS = ("api", "bridge", "encoding", "fedtime", "gen", "jvm", "record", "runtime",
+         "time")
 
 
 def tidy(build, unit):

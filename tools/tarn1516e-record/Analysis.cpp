@@ -1,5 +1,5 @@
 // Sums up a recording.
-#include "Analysis.h"
+#include "tools/tarn1516e-record/Analysis.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,7 +2,7 @@
 #ifndef tarn1516e_record_Analysis_h
 #define tarn1516e_record_Analysis_h
 
-#include "Trace.h"
+#include "tools/tarn1516e-record/Trace.h"
 
 #include <map>
 #include <string>

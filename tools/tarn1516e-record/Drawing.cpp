@@ -1,7 +1,7 @@
 // Axes, ticks and texts of the pictures.
-#include "Drawing.h"
+#include "tools/tarn1516e-record/Drawing.h"
 
-#include "Report.h"
+#include "tools/tarn1516e-record/Report.h"
 
 #include <algorithm>
 #include <cmath>

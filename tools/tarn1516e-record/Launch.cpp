@@ -1,5 +1,5 @@
 // The recorder's settings travel by the environment, as does its way in front of the library.
-#include "Launch.h"
+#include "tools/tarn1516e-record/Launch.h"
 
 #include <cerrno>
 #include <climits>

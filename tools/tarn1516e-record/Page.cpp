@@ -1,9 +1,9 @@
 // Writes the page. Where events are too dense to be seen one by one, a column of the picture stands
 // for all that fall into it, so that a page does not grow with its recording.
-#include "Page.h"
+#include "tools/tarn1516e-record/Page.h"
 
-#include "Drawing.h"
-#include "Report.h"
+#include "tools/tarn1516e-record/Drawing.h"
+#include "tools/tarn1516e-record/Report.h"
 
 #include <algorithm>
 #include <array>
@@ -48,7 +48,7 @@ char const* className(Call const& call)
 
 int const laneHeight = 16;
 int const mostLanes = 4; // of a thread
-double const narrowest = 1.5;
+double const narrowest = 2;
 
 // What falls into a column of a lane.
 struct Column {
@@ -78,7 +78,7 @@ void drawCall(Plot& plot, Trace const& trace, Call const& call, double y)
 
 void drawColumn(Plot& plot, Column const& column, int x, double y)
 {
-   double const opacity = 0.4 + 0.6 * std::min(1.0, column.covered);
+   double const opacity = 0.6 + 0.4 * std::min(1.0, column.covered);
    plot.out << "<rect class=\"" << (column.failed > 0 ? "failed" : className(*column.longest))
             << "\" x=\"" << x << "\" y=\"" << pixels(y) << "\" width=\"" << narrowest
             << "\" height=\"" << laneHeight - 2 << "\" fill-opacity=\"" << pixels(opacity)

@@ -2,8 +2,8 @@
 #ifndef tarn1516e_record_Page_h
 #define tarn1516e_record_Page_h
 
-#include "Analysis.h"
-#include "Trace.h"
+#include "tools/tarn1516e-record/Analysis.h"
+#include "tools/tarn1516e-record/Trace.h"
 
 #include <iosfwd>
 #include <string>

@@ -1,5 +1,5 @@
 // Prints a recording as tables.
-#include "Report.h"
+#include "tools/tarn1516e-record/Report.h"
 
 #include <cstdio>
 #include <iomanip>
@@ -10,6 +10,7 @@ namespace record {
 namespace {
 
 int const nameWidth = 44;
+std::size_t const mostRemarks = 10;
 
 void printOperations(
       std::ostream& out, Analysis const& analysis, Category category, char const* title)
@@ -110,6 +111,11 @@ std::vector<std::string> remarks(Trace const& trace, Analysis const& analysis)
    }
    for (std::size_t const i : analysis.open) {
       result.push_back("not ended: " + callText(trace, trace.calls[i]));
+   }
+   if (result.size() > mostRemarks) {
+      std::string const more = std::to_string(result.size() - mostRemarks);
+      result.resize(mostRemarks);
+      result.push_back("and " + more + " more without a grant or an end");
    }
    if (!trace.broken.empty()) {
       result.push_back("the file " + trace.broken);

@@ -1,5 +1,5 @@
 // Reads a recording event by event, so that no more than one is kept as JSON.
-#include "Trace.h"
+#include "tools/tarn1516e-record/Trace.h"
 
 #include <algorithm>
 #include <cerrno>

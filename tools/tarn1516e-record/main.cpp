@@ -1,9 +1,9 @@
 // The command line: starts a recorded program, or shows what a recording holds.
-#include "Analysis.h"
-#include "Launch.h"
-#include "Page.h"
-#include "Report.h"
-#include "Trace.h"
+#include "tools/tarn1516e-record/Analysis.h"
+#include "tools/tarn1516e-record/Launch.h"
+#include "tools/tarn1516e-record/Page.h"
+#include "tools/tarn1516e-record/Report.h"
+#include "tools/tarn1516e-record/Trace.h"
 
 #include <cerrno>
 #include <cstdio>
