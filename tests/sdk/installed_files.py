@@ -88,8 +88,10 @@ def jre_link(to, scratch, differences):
     build = scratch / "linked"
     sdk.run(to.cmake, "-S", to.source, "-B", build, "-G", "Ninja",
             f"-DCMAKE_CXX_COMPILER={to.compiler}", "-DTARN_TESTS=OFF", "-DTARN_EXAMPLES=OFF",
-            "-DTARN_INSTALL_JRE_LINK=ON", "-DTARN_JRE_LINK=/somewhere/java")
+            "-DCMAKE_BUILD_TYPE=Release", "-DTARN_INSTALL_JRE_LINK=ON", "-DTARN_JRE_LINK=/somewhere/java")
     sdk.run(to.cmake, "--install", build, "--component", "jre", "--prefix", scratch / "jre")
+    differences.check("a release is hardened",
+                      "_FORTIFY_SOURCE" in (build / "build.ninja").read_text())
     differences.same_lines("jre", {"jre -> /somewhere/java"}, files_below(to, scratch / "jre"))
 
 

@@ -1,4 +1,5 @@
-"""Does what the read-me tells a newcomer to do, from the installation on, word for word."""
+"""Does what the documents tell to do, word for word: the read-me from the installation on, and the
+time library of one's own. A block of commands that is neither is marked "by-hand"."""
 
 import re
 
@@ -15,6 +16,10 @@ def main():
     text = (to.source / "README.md").read_text()
     section = text.split("## The first ten minutes")[1].split("\n## ")[0]
     build, check, trial = commands(section)
+    own_time, = commands((to.source / "docs/logical-time.md").read_text())
+    for document in (to.source / "README.md", *(to.source / "docs").glob("*.md")):
+        untried = set(commands(document.read_text())) - {build, check, trial, own_time}
+        differences.same_lines(f"{document.name}, not run", set(), untried)
     federate = re.search(r"^```cpp\n(.*?)^```$", section, re.DOTALL | re.MULTILINE)[1]
     with sdk.Scratch() as home:
         for line in re.findall(r"^cmake --install build/mine --prefix (.*)$", build, re.MULTILINE):
@@ -25,6 +30,11 @@ def main():
         for step, said in steps:
             output = sdk.run("bash", "-ec", step, cwd=home, env={"HOME": home})
             differences.check(step, said in output, output)
+        sdk.run(home / "trial", cwd=home / "tarn", expect=1)  # where there is no Harbour.xml
+        tides = home / "tarn/share/tarn1516e/examples/tides"
+        output = sdk.run("bash", "-ec", own_time + "./federate", cwd=tides,
+                         env={"PKG_CONFIG_PATH": home / "tarn/lib/pkgconfig"})
+        differences.check("own time", "TideTime: tide 2 + 90 min" in output, output)
     differences.finish()
 
 
