@@ -1,7 +1,6 @@
 // Callbacks fired from a Java loop, each beside a native that does by hand what can't be avoided.
 #include "bench/bridge/Cases.h"
 #include "bench/bridge/Frames.h"
-#include <RTI/time/HLAfloat64TimeFactory.h>
 
 #include <map>
 #include <stdexcept>
@@ -33,7 +32,6 @@ public:
 
 // Volatile, lest the compiler know whose functions are called.
 Receiver* volatile receiver;
-FederateAmbassador* volatile grantReceiver;
 
 class Reader {
 public:
@@ -88,46 +86,30 @@ void pinAndRelease(JNIEnv* env, jobject, jbyteArray frame)
    env->ReleasePrimitiveArrayCritical(frame, pinned, 0);
 }
 
-// What the interface asks for besides: the final time, which tells the length, and the time.
-void grantByHand(JNIEnv* env, jobject, jbyteArray frame)
-{
-   static HLAfloat64TimeFactory factory;
-   void* const pinned = env->GetPrimitiveArrayCritical(frame, nullptr);
-   LogicalTimeFactory& made = factory;
-   std::size_t const length = made.makeFinal()->encodedLength();
-   std::auto_ptr<LogicalTime> const time =
-         made.decodeLogicalTime(static_cast<char*>(pinned) + 8, length);
-   env->ReleasePrimitiveArrayCritical(frame, pinned, 0);
-   grantReceiver->timeAdvanceGrant(*time);
-}
-
 void registerByHand()
 {
    JNINativeMethod const methods[] = {
          {const_cast<char*>("reflectAttributeValues"), const_cast<char*>("([B)V"),
                reinterpret_cast<void*>(reflectByHand)},
          {const_cast<char*>("pinAndRelease"), const_cast<char*>("([B)V"),
-               reinterpret_cast<void*>(pinAndRelease)},
-         {const_cast<char*>("timeAdvanceGrant"), const_cast<char*>("([B)V"),
-               reinterpret_cast<void*>(grantByHand)}};
-   if (environment()->RegisterNatives(byHandClass(), methods, 3) != 0) {
+               reinterpret_cast<void*>(pinAndRelease)}};
+   if (environment()->RegisterNatives(byHandClass(), methods, 2) != 0) {
       throw std::runtime_error("Java refuses the natives");
    }
    receiver = new Receiver; // stays with the natives
-   grantReceiver = &member().federate;
 }
 
 // ---- Cases ------------------------------------------------------------------------------------
 
-// `loop` is the Java method that fires.
-void addLoop(std::string const& name, char const* loop, std::string const& frame)
+// `loop` is the Java method that fires, by `signature` with what `argument` is.
+void addLoop(std::string const& name, char const* loop, char const* signature, jobject argument,
+      std::string const& frame)
 {
-   jbyteArray const array = keepArray(frame);
-   jmethodID const method = environment()->GetStaticMethodID(byHandClass(), loop, "([BI)V");
+   jmethodID const method = environment()->GetStaticMethodID(byHandClass(), loop, signature);
    benchmark::RegisterBenchmark(name.c_str(), [=](benchmark::State& state) {
       JNIEnv* const env = environment();
       while (state.KeepRunningBatch(fired)) {
-         env->CallStaticVoidMethod(byHandClass(), method, array, fired);
+         env->CallStaticVoidMethod(byHandClass(), method, argument, fired);
          if (env->ExceptionCheck()) {
             throw std::runtime_error("a callback failed");
          }
@@ -136,11 +118,35 @@ void addLoop(std::string const& name, char const* loop, std::string const& frame
    });
 }
 
-void addReflection(std::string const& name, int attributes)
+void addLoop(std::string const& name, char const* loop, std::string const& frame)
 {
+   addLoop(name, loop, "([BI)V", keepArray(frame), frame);
+}
+
+void addReflection(int attributes)
+{
+   std::string const name = "reflect-" + std::to_string(attributes);
    std::string const frame = makeReflection(member().handle, 1, attributes, 8);
    addLoop(name + "/subject", "fireReflectAttributeValues", frame);
    addLoop(name + "/floor", "fireReflectByHand", frame);
+}
+
+// No two reflections in turn have an attribute in common.
+void addChangingReflection(int attributes)
+{
+   JNIEnv* const env = environment();
+   int const different = 4;
+   jobjectArray const frames = static_cast<jobjectArray>(
+         env->NewGlobalRef(env->NewObjectArray(different, env->FindClass("[B"), nullptr)));
+   std::string frame;
+   for (int i = 0; i != different; ++i) {
+      frame = makeReflection(member().handle, 1 + i * attributes, attributes, 8);
+      env->SetObjectArrayElement(frames, i, keepArray(frame));
+   }
+   std::string const name = "reflect-" + std::to_string(attributes) + "-changing";
+   char const signature[] = "([[BI)V";
+   addLoop(name + "/subject", "fireReflectAttributeValuesInTurn", signature, frames, frame);
+   addLoop(name + "/floor", "fireReflectByHandInTurn", signature, frames, frame);
 }
 
 } // namespace
@@ -148,14 +154,14 @@ void addReflection(std::string const& name, int attributes)
 void addCallbacks()
 {
    registerByHand();
-   addReflection("reflect-1", 1);
-   addReflection("reflect-10", 10);
-   addReflection("reflect-100", 100);
+   for (int attributes : {1, 10, 100, 1000}) {
+      addReflection(attributes);
+   }
+   addChangingReflection(10);
 
    std::string const grant = makeGrant(member().handle, 1.5);
    addLoop("timeAdvanceGrant/subject", "fireTimeAdvanceGrant", grant);
    addLoop("timeAdvanceGrant/floor", "firePinAndRelease", grant);
-   addLoop("timeAdvanceGrant/least", "fireGrantByHand", grant);
    std::string const saved = makeEmptyFrame(member().handle);
    addLoop("federationSaved/subject", "fireFederationSaved", saved);
    addLoop("federationSaved/floor", "firePinAndRelease", saved);

@@ -10,17 +10,23 @@ namespace {
 
 char const updateMethod[] = "updateAttributeValues_OIH_AHVM_BX";
 
-// Every thread has an ambassador of its own.
+// Every thread has an ambassador of its own, or all share one.
 void addThreads()
 {
    Update const update(makeValues(10, 64));
    std::string const bytes = recordBody(updateMethod, [&] { update(*member().ambassador); });
    JavaMethod const method = findService(updateMethod, "([B)V");
 
-   auto const subject = [=](benchmark::State& state) {
+   auto const own = [=](benchmark::State& state) {
       std::auto_ptr<RTIambassador> const ambassador = makeAmbassador();
       for (auto _ : state) {
          update(*ambassador);
+      }
+   };
+   auto const shared = [=](benchmark::State& state) {
+      RTIambassador& ambassador = *member().ambassador;
+      for (auto _ : state) {
+         update(ambassador);
       }
    };
    auto const floor = [=](benchmark::State& state) {
@@ -29,12 +35,17 @@ void addThreads()
          callByHand(env, method, bytes, invokeVoid);
       }
    };
-   for (int threads : {1, 2, 4, 8}) {
-      std::string const name = "threads-" + std::to_string(threads);
+   auto const add = [&](std::string const& name, int threads, auto const& subject) {
       for (auto* added : {benchmark::RegisterBenchmark((name + "/subject").c_str(), subject),
                  benchmark::RegisterBenchmark((name + "/floor").c_str(), floor)}) {
          added->Threads(threads)->UseRealTime();
       }
+   };
+   for (int threads : {1, 2, 4, 8}) {
+      add("threads-" + std::to_string(threads), threads, own);
+   }
+   for (int threads : {4, 8}) {
+      add("shared-" + std::to_string(threads), threads, shared);
    }
 }
 

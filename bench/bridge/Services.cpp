@@ -72,28 +72,6 @@ void addLeastUpdate(std::string const& name, int attributes, std::size_t size)
    });
 }
 
-// The time is encoded, and a retraction handle is made.
-void addLeastTimedUpdate(std::string const& name, int attributes, std::size_t size)
-{
-   AttributeHandleValueMap const values = makeValues(attributes, size);
-   Update const update(values);
-   std::string const untimed = recordBody(updateMethod, [&] { update(*member().ambassador); });
-   std::string const bytes(untimed.size() + 8, '\0');
-   JavaMethod const method = findService(timedUpdateMethod, "([B)[B");
-   benchmark::RegisterBenchmark((name + "/least").c_str(), [=](benchmark::State& state) {
-      JNIEnv* const env = environment();
-      HLAfloat64Time const theTime(1.5);
-      LogicalTime const* volatile const time = &theTime;
-      for (auto _ : state) {
-         VariableLengthData const encoded = time->encode();
-         benchmark::DoNotOptimize(encoded.data());
-         callByHand(env, method, bytes, invokeObject);
-         MessageRetractionHandle const handle;
-         benchmark::DoNotOptimize(&handle);
-      }
-   });
-}
-
 void addTimedUpdate(std::string const& name, int attributes, std::size_t size)
 {
    AttributeHandleValueMap const values = makeValues(attributes, size);
@@ -104,6 +82,71 @@ void addTimedUpdate(std::string const& name, int attributes, std::size_t size)
       benchmark::DoNotOptimize(ambassador.updateAttributeValues(object, values, tag, time));
    };
    compare(name, timedUpdateMethod, "([B)[B", update, invokeObject);
+}
+
+// ---- By hand: what a user would write with nothing but the public operations --------------------
+
+class Writer {
+public:
+   explicit Writer(void* bytes) : _next(static_cast<char*>(bytes)) {}
+
+   void integer(unsigned long value)
+   {
+      for (int shift = 24; shift >= 0; shift -= 8) {
+         *_next++ = static_cast<char>(value >> shift);
+      }
+   }
+
+   template <class Handle>
+   void handle(Handle const& handle)
+   {
+      _next += handle.encode(_next, 4);
+   }
+
+   void block(VariableLengthData const& data)
+   {
+      integer(data.size());
+      std::memcpy(_next, data.data(), data.size());
+      _next += data.size();
+   }
+
+private:
+   char* _next;
+};
+
+void updateByHand(JNIEnv* env, JavaMethod const& method, ObjectInstanceHandle const& object,
+      AttributeHandleValueMap const& values, VariableLengthData const& tag)
+{
+   std::size_t size = 4 + 4 + 4 + tag.size();
+   for (auto const& entry : values) {
+      size += 4 + 4 + entry.second.size();
+   }
+   jbyteArray const array = env->NewByteArray(static_cast<jsize>(size));
+   void* const pinned = env->GetPrimitiveArrayCritical(array, nullptr);
+   Writer writer(pinned);
+   writer.handle(object);
+   writer.integer(values.size());
+   for (auto const& entry : values) {
+      writer.handle(entry.first);
+      writer.block(entry.second);
+   }
+   writer.block(tag);
+   env->ReleasePrimitiveArrayCritical(array, pinned, 0);
+   callWith(env, method, array, invokeVoid);
+}
+
+void addUpdateByHand(std::string const& name, int attributes, std::size_t size)
+{
+   AttributeHandleValueMap const values = makeValues(attributes, size);
+   ObjectInstanceHandle const object = makeObject(1);
+   VariableLengthData const tag("tag!", 4);
+   JavaMethod const method = findService(updateMethod, "([B)V");
+   benchmark::RegisterBenchmark((name + "/hand").c_str(), [=](benchmark::State& state) {
+      JNIEnv* const env = environment();
+      for (auto _ : state) {
+         updateByHand(env, method, object, values, tag);
+      }
+   });
 }
 
 // ---- The way that bindings are usually written: an array for each value ------------------------
@@ -262,11 +305,13 @@ void addServices()
    addUpdate("update-1x8", 1, 8);
    addUpdate("update-10x64", 10, 64);
    addLeastUpdate("update-10x64", 10, 64);
+   addUpdateByHand("update-10x64", 10, 64);
    addUsualUpdate("update-10x64", 10, 64);
+   addUpdate("update-100x8", 100, 8);
+   addUpdateByHand("update-100x8", 100, 8);
    addUpdate("update-1x64K", 1, 64 * 1024);
    addUpdate("update-1x1M", 1, 1024 * 1024);
    addTimedUpdate("timed-update-1x8", 1, 8);
-   addLeastTimedUpdate("timed-update-1x8", 1, 8);
    addTimedUpdate("timed-update-10x64", 10, 64);
    addSmallServices();
    addFailure("fails-on-first-rung", "AttributeNotOwned");

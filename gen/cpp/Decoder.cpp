@@ -62,8 +62,7 @@ std::set<Handle> readHandleSet(ByteWrapper& buffer)
    return handles;
 }
 
-// The bytes that stay with the value until the next ones come.
-std::size_t fill(VariableLengthData& value, Block block)
+void fill(VariableLengthData& value, Block block)
 {
    VariableLengthDataImplementation& record = VariableLengthDataFriend::getImplementation(value);
    if (!useCopies) {
@@ -71,45 +70,65 @@ std::size_t fill(VariableLengthData& value, Block block)
    } else if (record.hasRoomFor(block.size)) {
       record.size = block.size;
       copyBytes(record.data, block.bytes, block.size);
-      return record.room;
    } else {
       value.setData(block.bytes, block.size);
    }
+}
+
+// The bytes that stay with the value until the next ones come.
+std::size_t held(VariableLengthData& value)
+{
    return VariableLengthDataFriend::getImplementation(value).room;
 }
 
 std::size_t refill(ByteWrapper& buffer, VariableLengthData& tag)
 {
-   return fill(tag, readBlock(buffer));
+   fill(tag, readBlock(buffer));
+   return held(tag);
+}
+
+// As a rule handles ascend, and the place is behind the others.
+template <class Values>
+typename Values::iterator add(Values& values, typename Values::key_type const& handle, Block block)
+{
+   std::size_t const before = values.size();
+   typename Values::iterator const entry =
+         values.emplace_hint(values.end(), std::piecewise_construct, std::forward_as_tuple(handle),
+               std::forward_as_tuple(block.bytes, block.size));
+   if (!useCopies || values.size() == before) { // the last of several values for one handle stays
+      fill(entry->second, block);
+   }
+   return entry;
 }
 
 // As long as the handles are those that the map has, their values are written over; from the first
-// other one on the map is made anew. The last of several values for one handle stays.
+// other one on the map is made anew.
 template <class Handle, Handle (*makeHandle)(int)>
 std::size_t refill(ByteWrapper& buffer, std::map<Handle, VariableLengthData>& values)
 {
    typedef typename std::map<Handle, VariableLengthData>::iterator Place;
    std::size_t const node = 128; // bytes of an entry and of its value's record, about
-   std::size_t held = 0;
+   std::size_t all = 0;
    Place old = values.begin();
    int const count = buffer.getInt();
    for (int i = 0; i < count; ++i) {
       Handle const handle = makeHandle(buffer.getInt());
+      Block const block = readBlock(buffer);
       Place entry = old;
       if (old != values.end() && old->first == handle) {
+         fill(entry->second, block);
          step(old);
       } else {
          if (old != values.end()) {
             values.erase(old, values.end());
             old = values.end();
          }
-         entry = values.emplace_hint(
-               old, std::piecewise_construct, std::forward_as_tuple(handle), std::tuple<>());
+         entry = add(values, handle, block);
       }
-      held += node + fill(entry->second, readBlock(buffer));
+      all += node + held(entry->second);
    }
    values.erase(old, values.end());
-   return held;
+   return all;
 }
 
 std::size_t refill(ByteWrapper& buffer, AttributeHandleValueMap& values)

@@ -139,6 +139,22 @@ private:
             allocations, count);
    }
 
+   // No two reflections in turn have an attribute in common.
+   void addChangingReflection(int count, long allocations)
+   {
+      quickvm::Native const function =
+            quickvm::findNative("reflectAttributeValues_OIH_AHVM_BX_OT_TTH_FASRI_Native");
+      jbyteArray const odd = quickvm::makeArray(makeReflection(_handle, count, 8));
+      jbyteArray const even = quickvm::makeArray(makeReflection(_handle, count, 8, 1 + count));
+      rows.push_back({"reflect-" + std::to_string(count) + "-changing",
+            [=] {
+               static bool isOdd;
+               isOdd = !isOdd;
+               function(quickvm::environment(), nullptr, isOdd ? odd : even);
+            },
+            allocations, [this] { return _federate.reached; }, count});
+   }
+
    void addCallbacks()
    {
       using namespace contract;
@@ -148,6 +164,7 @@ private:
       addReflection(100, 0);
       // So much is not kept: the map, and for each attribute a node and a record with the bytes.
       addReflection(1000, 1 + 2 * 1000);
+      addChangingReflection(10, 2 * 10);
       addCallback("attributesInScope-3", "attributesInScope_OIH_AHS",
             frame(_handle, integer(1) + counted({integer(1), integer(2), integer(3)})), 3, 3);
       // A string of more characters than it holds in itself.

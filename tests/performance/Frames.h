@@ -8,12 +8,12 @@
 
 namespace performance {
 
-// Attributes 1 to count with values of `size` bytes each, a tag of 4 bytes, and the producer.
-inline std::string makeReflection(int handle, int count, std::size_t size)
+// Attributes `first` and on with values of `size` bytes each, a tag of 4 bytes, and the producer.
+inline std::string makeReflection(int handle, int count, std::size_t size, int first = 1)
 {
    using namespace contract;
    std::vector<Wire> values;
-   for (int attribute = 1; attribute <= count; ++attribute) {
+   for (int attribute = first; attribute < first + count; ++attribute) {
       values.push_back(integer(attribute) + block(std::string(size, 'v')));
    }
    Wire const receiveOrder = integer(0);

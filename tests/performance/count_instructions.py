@@ -15,7 +15,7 @@ from pathlib import Path
 FIGURES = Path(__file__).resolve().parent / "instructions.txt"
 CASES = [
     "update-1x8", "update-10x64", "update-100x8", "timed-update-1x8", "getAttributeHandle",
-    "evokeCallback", "reflect-1", "reflect-10", "reflect-100", "timeAdvanceGrant",
+    "evokeCallback", "reflect-1", "reflect-10", "reflect-100", "reflect-10-changing", "timeAdvanceGrant",
     "federationSaved",
 ]
 FEW, MANY = 100, 1100

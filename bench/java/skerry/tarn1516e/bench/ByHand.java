@@ -15,9 +15,6 @@ public final class ByHand {
    /** Pins the frame and releases it. */
    public native void pinAndRelease(byte[] frame);
 
-   /** Makes the times that a grant needs, and makes a virtual call. */
-   public native void timeAdvanceGrant(byte[] frame);
-
    /** The Java end of a binding with an array for each value. */
    public void updateAttributeValues(int object, int[] attributes, byte[][] values, byte[] tag) {}
 
@@ -48,9 +45,18 @@ public final class ByHand {
       }
    }
 
-   public static void fireGrantByHand(byte[] frame, int times) {
+   // The frames in turn.
+
+   public static void fireReflectAttributeValuesInTurn(byte[][] frames, int times)
+         throws FederateInternalError {
       for (int i = 0; i < times; ++i) {
-         BY_HAND.timeAdvanceGrant(frame);
+         LIBRARY.reflectAttributeValues_OIH_AHVM_BX_OT_TTH_FASRI_Native(frames[i % frames.length]);
+      }
+   }
+
+   public static void fireReflectByHandInTurn(byte[][] frames, int times) {
+      for (int i = 0; i < times; ++i) {
+         BY_HAND.reflectAttributeValues(frames[i % frames.length]);
       }
    }
 
