@@ -101,8 +101,9 @@ typename Values::iterator add(Values& values, typename Values::key_type const& h
    return entry;
 }
 
-// As long as the handles are those that the map has, their values are written over; from the first
-// other one on the map is made anew.
+// The entries that are there are written over, in their order, as long as the handles ascend; from
+// there on the map is made anew. A key may be replaced, though never assigned, since the entry lies
+// on the heap; and while keys behind it are still the old ones nobody looks anything up.
 template <class Handle, Handle (*makeHandle)(int)>
 std::size_t refill(ByteWrapper& buffer, std::map<Handle, VariableLengthData>& values)
 {
@@ -110,12 +111,14 @@ std::size_t refill(ByteWrapper& buffer, std::map<Handle, VariableLengthData>& va
    std::size_t const node = 128; // bytes of an entry and of its value's record, about
    std::size_t all = 0;
    Place old = values.begin();
+   Handle last;
    int const count = buffer.getInt();
    for (int i = 0; i < count; ++i) {
       Handle const handle = makeHandle(buffer.getInt());
       Block const block = readBlock(buffer);
       Place entry = old;
-      if (old != values.end() && old->first == handle) {
+      if (old != values.end() && (i == 0 || last < handle)) {
+         new (const_cast<Handle*>(&entry->first)) Handle(handle);
          fill(entry->second, block);
          step(old);
       } else {
@@ -125,6 +128,7 @@ std::size_t refill(ByteWrapper& buffer, std::map<Handle, VariableLengthData>& va
          }
          entry = add(values, handle, block);
       }
+      last = handle;
       all += node + held(entry->second);
    }
    values.erase(old, values.end());

@@ -164,7 +164,7 @@ private:
       addReflection(100, 0);
       // So much is not kept: the map, and for each attribute a node and a record with the bytes.
       addReflection(1000, 1 + 2 * 1000);
-      addChangingReflection(10, 2 * 10);
+      addChangingReflection(10, 0);
       addCallback("attributesInScope-3", "attributesInScope_OIH_AHS",
             frame(_handle, integer(1) + counted({integer(1), integer(2), integer(3)})), 3, 3);
       // A string of more characters than it holds in itself.
