@@ -166,7 +166,7 @@ std::string classPathOption(std::string const& home)
    std::string const jar = home + jarBelowHome;
    trace((fileExists(jar) ? "Tarn java libs found in '" : "No Tarn java libs found in '") + jar
          + "'");
-   std::string const option = "-Djava.class.path=" + classPath(home);
+   std::string option = "-Djava.class.path=" + classPath(home);
    trace("Setting classpath to '" + option + "'");
    return option;
 }

@@ -41,6 +41,16 @@ std::string dotted(std::string name)
    return name;
 }
 
+std::string listed(std::vector<std::string> const& texts)
+{
+   std::string list;
+   for (std::string const& text : texts) {
+      list += list.empty() ? "" : ", ";
+      list += text;
+   }
+   return list;
+}
+
 std::string firstLine(std::string const& text)
 {
    return text.substr(0, text.find('\n'));
@@ -172,11 +182,12 @@ bool Diagnosis::options()
             "without a word.");
    }
    warnOfOptions();
-   std::string list;
+   std::vector<std::string> texts;
+   texts.reserve(_options.size());
    for (GivenOption const& option : _options) {
-      list += (list.empty() ? "" : ", ") + visible(option.text) + " (" + option.source + ")";
+      texts.push_back(visible(option.text) + " (" + option.source + ")");
    }
-   return _report.found(list.empty() ? "none given" : list);
+   return _report.found(texts.empty() ? "none given" : listed(texts));
 }
 
 void Diagnosis::warnOfOptions()
@@ -271,6 +282,7 @@ void Diagnosis::warnOfVm()
             "link a Java runtime there (ln -sfn <runtime> " + below("jre") + ").");
    }
    std::vector<std::string> texts;
+   texts.reserve(_options.size());
    for (GivenOption const& option : _options) {
       texts.push_back(option.text);
    }
@@ -361,14 +373,14 @@ bool Diagnosis::classPath()
    if (_trial.isJoined()) {
       return _report.found("the one that the VM was started with");
    }
-   std::string missing;
+   std::vector<std::string> missing;
    for (std::string const& element : elementsOf(valueOf("CLASSPATH"))) {
       if (!element.empty() && !exists(element)) {
-         missing += (missing.empty() ? "" : ", ") + element;
+         missing.push_back(element);
       }
    }
    if (!missing.empty()) {
-      _report.warn("CLASSPATH leads nowhere: " + missing,
+      _report.warn("CLASSPATH leads nowhere: " + listed(missing),
             "correct CLASSPATH or unset it; only the java command itself replaces a '*' in it.");
    }
    std::string const path = tarn1516e::classPath(_home);

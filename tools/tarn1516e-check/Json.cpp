@@ -69,11 +69,19 @@ std::string textOrNull(std::string const& bytes)
 
 std::string list(std::vector<std::string> const& values, std::string const& indent)
 {
-   std::string lines;
+   std::string lines = "[";
    for (std::string const& value : values) {
-      lines += (lines.empty() ? "" : ",") + ("\n" + indent) + "   " + value;
+      lines += lines.size() > 1 ? ",\n" : "\n";
+      lines += indent;
+      lines += "   ";
+      lines += value;
    }
-   return "[" + lines + (lines.empty() ? "]" : "\n" + indent + "]");
+   if (!values.empty()) {
+      lines += "\n";
+      lines += indent;
+   }
+   lines += "]";
+   return lines;
 }
 
 } // namespace json

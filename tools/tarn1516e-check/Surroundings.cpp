@@ -14,7 +14,10 @@
 #include <unistd.h>
 
 #if defined(__APPLE__)
+#include <cstdint>
 #include <mach-o/dyld.h>
+
+extern char** environ;
 #endif
 
 namespace check {

@@ -25,6 +25,7 @@ std::string startVm(
       return dlerror();
    }
    std::vector<JavaVMOption> entries;
+   entries.reserve(options.size());
    for (std::string const& option : options) {
       entries.push_back({const_cast<char*>(option.c_str()), nullptr}); // the VM only reads it
    }

@@ -64,59 +64,66 @@ bool readLimit(std::string const& text, std::chrono::seconds& limit)
    return !text.empty() && *end == '\0' && seconds > 0 && seconds <= most;
 }
 
-// The exit status to leave with at once, or -1.
+enum {
+   hostVm = 256, // options without a letter
+   version
+};
+option const longOptions[] = {
+      {"settings", required_argument, nullptr, 's'},
+      {"host-vm", required_argument, nullptr, hostVm},
+      {"timeout", required_argument, nullptr, 't'},
+      {"json", no_argument, nullptr, 'j'},
+      {"verbose", no_argument, nullptr, 'v'},
+      {"help", no_argument, nullptr, 'h'},
+      {"version", no_argument, nullptr, version},
+      {nullptr, 0, nullptr, 0},
+};
+
+int const goOn = -1; // instead of an exit status
+
+int take(int letter, std::string const& value, Arguments& arguments)
+{
+   check::Request& request = arguments.request;
+   switch (letter) {
+   case 's':
+      return widen(value, request.settings)
+            ? goOn
+            : wrongUsage("The settings are no text in this locale (LC_ALL). ");
+   case hostVm:
+      request.hostVm = true;
+      request.hostClassPath = value;
+      return goOn;
+   case 't':
+      return readLimit(value, request.limit)
+            ? goOn
+            : wrongUsage("The timeout is a number of seconds, 1 to 86400. ");
+   case 'j':
+      arguments.isJson = true;
+      return goOn;
+   case 'v':
+      arguments.isVerbose = true;
+      return goOn;
+   case 'h':
+      std::fputs(usage, stdout);
+      return allIsWell;
+   case version:
+      std::printf("tarn1516e-check %ls\n", rti1516e::rtiVersion().c_str());
+      return allIsWell;
+   default:
+      return wrongUsage("");
+   }
+}
+
 int parse(int argc, char** argv, Arguments& arguments)
 {
-   enum {
-      hostVm = 256,
-      version
-   };
-   option const longOptions[] = {
-         {"settings", required_argument, nullptr, 's'},
-         {"host-vm", required_argument, nullptr, hostVm},
-         {"timeout", required_argument, nullptr, 't'},
-         {"json", no_argument, nullptr, 'j'},
-         {"verbose", no_argument, nullptr, 'v'},
-         {"help", no_argument, nullptr, 'h'},
-         {"version", no_argument, nullptr, version},
-         {nullptr, 0, nullptr, 0},
-   };
-   check::Request& request = arguments.request;
    int letter;
    while ((letter = getopt_long(argc, argv, "s:t:jvh", longOptions, nullptr)) != -1) {
-      std::string const value = optarg != nullptr ? optarg : "";
-      switch (letter) {
-      case 's':
-         if (!widen(value, request.settings)) {
-            return wrongUsage("The settings are no text in this locale (LC_ALL). ");
-         }
-         break;
-      case hostVm:
-         request.hostVm = true;
-         request.hostClassPath = value;
-         break;
-      case 't':
-         if (!readLimit(value, request.limit)) {
-            return wrongUsage("The timeout is a number of seconds, 1 to 86400. ");
-         }
-         break;
-      case 'j':
-         arguments.isJson = true;
-         break;
-      case 'v':
-         arguments.isVerbose = true;
-         break;
-      case 'h':
-         std::fputs(usage, stdout);
-         return allIsWell;
-      case version:
-         std::printf("tarn1516e-check %ls\n", rti1516e::rtiVersion().c_str());
-         return allIsWell;
-      default:
-         return wrongUsage("");
+      int const status = take(letter, optarg != nullptr ? optarg : "", arguments);
+      if (status != goOn) {
+         return status;
       }
    }
-   return optind == argc ? -1
+   return optind == argc ? goOn
                          : wrongUsage(argv[0] + std::string(": what is '") + argv[optind] + "'? ");
 }
 
@@ -127,7 +134,7 @@ int main(int argc, char** argv)
    std::setlocale(LC_CTYPE, ""); // of which the settings are a text; the library asks no locale
    Arguments arguments;
    int const status = parse(argc, argv, arguments);
-   if (status >= 0) {
+   if (status != goOn) {
       return status;
    }
    try {
