@@ -164,11 +164,12 @@ bool Diagnosis::home()
             "set TARN1516E_HOME to the directory of an installation, which a file " + marker
                   + " marks as one.");
    }
-   for (std::string const part : {"jre", tarn1516e::jarBelowHome, "include/RTI/RTI1516.h"}) {
-      if (exists(around + "/" + part)) {
-         return _report.failed(around + " has " + part + ", but no " + marker,
-               "put the marker back: touch " + around + "/" + marker + ".");
-      }
+   std::vector<std::string> const parts = {"jre", tarn1516e::jarBelowHome, "include/RTI/RTI1516.h"};
+   auto const part = std::find_if(parts.begin(), parts.end(),
+         [&around](std::string const& one) { return exists(around + "/" + one); });
+   if (part != parts.end()) {
+      return _report.failed(around + " has " + *part + ", but no " + marker,
+            "put the marker back: touch " + around + "/" + marker + ".");
    }
    return _report.found("none; VM and classes have to come from the library path and CLASSPATH");
 }
