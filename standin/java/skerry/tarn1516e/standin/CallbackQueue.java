@@ -74,6 +74,9 @@ final class CallbackQueue extends CallbackSender {
 
    @Override
    synchronized void send(String nativeName, byte[] frame) {
+      if (_isClosed) {
+         return;
+      }
       _waiting.add(new Callback(nativeName, frame, _before));
       _before = NOTHING;
       notifyAll();

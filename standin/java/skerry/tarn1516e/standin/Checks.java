@@ -48,6 +48,15 @@ final class Checks {
       return found;
    }
 
+   /** Reports of service calls don't go to the federate whose calls they tell. */
+   static void mayGetReports(Member member, Fom.InteractionClass subscribed)
+         throws FederateServiceInvocationsAreBeingReportedViaMOM {
+      if (subscribed.name.equals(Mim.SERVICE_INVOCATION) && member.isReportingServices()) {
+         throw new FederateServiceInvocationsAreBeingReportedViaMOM(
+               "the federate's own service calls are being reported");
+      }
+   }
+
    /** An instance that the member knows. */
    static ObjectInstance instance(Member member, int handle) throws ObjectInstanceNotKnown {
       ObjectInstance found = member.federation().instances.get(handle);

@@ -7,6 +7,7 @@ import hla.rti1516e.exceptions.RTIinternalError;
 import java.lang.ref.PhantomReference;
 import java.lang.ref.Reference;
 import java.lang.ref.ReferenceQueue;
+import java.lang.ref.WeakReference;
 import java.util.ArrayList;
 import java.util.HashMap;
 import java.util.HashSet;
@@ -34,11 +35,13 @@ final class Connection {
 
    private static volatile int _looks;
 
+   private final WeakReference<Loopback> _ambassador;
    private CallbackQueue _callbacks;
    private Member _member;
    private boolean _isLost;
 
    Connection(Loopback ambassador) {
+      _ambassador = new WeakReference<>(ambassador);
       synchronized (Loopback.LOCK) {
          if (TRACES.isEmpty()) {
             Thread watch = new Thread(Connection::watch, "tarn-standin-watch");
@@ -171,10 +174,20 @@ final class Connection {
    void join(Member member) {
       _member = member;
       member.attach(this, _callbacks);
+      report(member.isReportingServices() || member.isReportingExceptions());
+   }
+
+   /** Whether the services of the ambassador are to be reported. */
+   void report(boolean on) {
+      Loopback ambassador = _ambassador.get();
+      if (ambassador != null) {
+         ambassador.report(on);
+      }
    }
 
    void leave() {
       _callbacks.dropMemberCallbacks();
+      report(false);
       _member = null;
    }
 }

@@ -22,10 +22,9 @@ final class DeclarationService implements DeclarationManagement {
       if (attributes.isEmpty()) {
          return;
       }
-      Set<Integer> published = member.declarations().published.computeIfAbsent(
-            objectClass, none -> new HashSet<>());
-      published.addAll(attributes);
-      published.add(member.federation().fom().privilegeToDelete());
+      member.declarations().publish(objectClass, attributes);
+      member.declarations().publish(objectClass,
+            Collections.singleton(member.federation().fom().privilegeToDelete()));
       member.federation().published(member, Checks.objectClass(member, objectClass));
    }
 
@@ -139,6 +138,7 @@ final class DeclarationService implements DeclarationManagement {
    public void subscribeInteractionClass(int interaction, boolean isActive) throws RTIexception {
       Member member = _loopback.workingMember();
       Fom.InteractionClass found = Checks.interaction(member, interaction);
+      Checks.mayGetReports(member, found);
       member.declarations().makeInterest(interaction)
             .subscribe(new Interest.Subscription(isActive, ""));
       member.federation().advisories().subscribed(found);

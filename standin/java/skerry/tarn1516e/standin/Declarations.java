@@ -30,6 +30,10 @@ final class Declarations implements Serializable {
    final HashSet<Integer> toRegister = new HashSet<>();
    final HashSet<Integer> toSend = new HashSet<>();
 
+   void publish(int objectClass, Set<Integer> attributes) {
+      published.computeIfAbsent(objectClass, none -> new HashSet<>()).addAll(attributes);
+   }
+
    boolean publishes(int objectClass, int attribute) {
       return published.containsKey(objectClass)
             && published.get(objectClass).contains(attribute);

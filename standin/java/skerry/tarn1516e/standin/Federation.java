@@ -13,6 +13,7 @@ import java.util.LinkedHashSet;
 import java.util.List;
 import java.util.Map;
 import java.util.Set;
+import java.util.stream.Collectors;
 
 final class Federation {
    /** What a save keeps. */
@@ -25,6 +26,7 @@ final class Federation {
       final LinkedHashMap<Integer, Region> regions;
       final HashSet<String> takenNames;
       final boolean isAutoProviding;
+      final Member rti;
 
       State(Federation from) {
          members = new LinkedHashMap<>(from._members);
@@ -33,6 +35,7 @@ final class Federation {
          regions = new LinkedHashMap<>(from.regions);
          takenNames = new HashSet<>(from.takenNames);
          isAutoProviding = from.isAutoProviding;
+         rti = from._mom.rti();
       }
    }
 
@@ -62,6 +65,7 @@ final class Federation {
    /** Whether whoever discovers an instance gets its values without asking. */
    boolean isAutoProviding;
 
+   private Mom _mom;
    private int _lastMember;
    private int _lastInstance;
    private int _lastRegion;
@@ -95,6 +99,26 @@ final class Federation {
 
    Advisories advisories() {
       return _advisories;
+   }
+
+   Mom mom() {
+      return _mom;
+   }
+
+   /** The object model is there. */
+   void begin() {
+      isAutoProviding = _fom.isSwitchedOn("autoProvide", false);
+      _mom = new Mom(this);
+   }
+
+   String mimName() {
+      return _modules.stream().filter(each -> each.isMim).map(each -> each.designator)
+            .findFirst().orElse(Mim.NAME);
+   }
+
+   List<String> moduleNames() {
+      return _modules.stream().filter(each -> !each.isMim).map(each -> each.designator)
+            .collect(Collectors.toList());
    }
 
    SaveRestore saveRestore() {
@@ -168,6 +192,7 @@ final class Federation {
 
    void add(Member member) {
       _members.put(member.handle(), member);
+      _mom.joined(member);
       for (SyncPoint point : syncPoints.values()) {
          if (point.isForAll) {
             point.announceTo(member);
@@ -179,6 +204,7 @@ final class Federation {
    void remove(Member member) {
       new Resignation(member).act(member.resignDirective);
       _members.remove(member.handle());
+      _mom.resigned(member);
       member.time().forgetMessages();
       takenNames.removeAll(member.reservedNames);
       regions.values().removeIf(region -> region.creator == member);
@@ -244,6 +270,7 @@ final class Federation {
       takenNames.addAll(state.takenNames);
       isAutoProviding = state.isAutoProviding;
       members().forEach(member -> member.comeBack(this));
+      _mom.appoint(state.rti);
       regions.values().forEach(region -> region.associated = new HashSet<>());
       for (ObjectInstance instance : state.instances.values()) {
          add(instance);

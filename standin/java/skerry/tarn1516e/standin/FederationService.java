@@ -94,7 +94,7 @@ final class FederationService implements FederationManagement {
       }
       Federation created = new Federation(name, timeName);
       created.addModules(opened);
-      created.isAutoProviding = created.fom().isSwitchedOn("autoProvide", false);
+      created.begin();
       Federation.ALL.put(name, created);
    }
 
@@ -159,6 +159,7 @@ final class FederationService implements FederationManagement {
       int handle = federation.nextMemberHandle();
       Member member = new Member(
             handle, name != null ? name : type + " " + handle, type, federation);
+      member.moduleNames.addAll(modules);
       _loopback.connection().join(member);
       federation.add(member);
       return handle;

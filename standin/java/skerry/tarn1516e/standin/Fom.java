@@ -208,6 +208,10 @@ final class Fom {
       _transportations.add(name);
    }
 
+   String attributeName(int objectClass, int attribute) {
+      return objectClasses.get(objectClass).attributes.get(attribute).name;
+   }
+
    boolean hasAttribute(int handle) {
       return handle > 0 && handle <= _attributeCount;
    }

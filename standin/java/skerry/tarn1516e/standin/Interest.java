@@ -24,6 +24,17 @@ final class Interest implements Serializable {
          this.isActive = isActive;
          this.updateRate = updateRate;
       }
+
+      @Override
+      public boolean equals(Object other) {
+         return other instanceof Subscription && isActive == ((Subscription) other).isActive
+               && updateRate.equals(((Subscription) other).updateRate);
+      }
+
+      @Override
+      public int hashCode() {
+         return updateRate.hashCode();
+      }
    }
 
    /** Null if there is none. */

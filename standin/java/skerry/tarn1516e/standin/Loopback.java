@@ -13,13 +13,13 @@ public final class Loopback {
 
    private static boolean _isAnnounced;
 
-   public final FederationManagement federation = new FederationService(this);
-   public final DeclarationManagement declaration = new DeclarationService(this);
-   public final ObjectManagement object = new ObjectService(this);
-   public final OwnershipManagement ownership = new OwnershipService(this);
-   public final TimeManagement time = new TimeService(this);
-   public final DataDistributionManagement data = new RegionService(this);
-   public final SupportServices support = new SupportService(this);
+   public volatile FederationManagement federation;
+   public volatile DeclarationManagement declaration;
+   public volatile ObjectManagement object;
+   public volatile OwnershipManagement ownership;
+   public volatile TimeManagement time;
+   public volatile DataDistributionManagement data;
+   public volatile SupportServices support;
 
    private final Connection _connection;
 
@@ -32,6 +32,7 @@ public final class Loopback {
       }
       announce();
       _connection = new Connection(this);
+      report(false);
    }
 
    private static void announce() {
@@ -41,6 +42,27 @@ public final class Loopback {
                   "tarn1516e stand-in: not an RTI, for trials and tests only");
          }
          _isAnnounced = true;
+      }
+   }
+
+   /** Whether somebody listens to what is called. */
+   void report(boolean on) {
+      federation = new FederationService(this);
+      declaration = new DeclarationService(this);
+      object = new ObjectService(this);
+      ownership = new OwnershipService(this);
+      time = new TimeService(this);
+      data = new RegionService(this);
+      support = new SupportService(this);
+      if (on) {
+         Connection to = _connection;
+         federation = ServiceReports.before(FederationManagement.class, federation, to);
+         declaration = ServiceReports.before(DeclarationManagement.class, declaration, to);
+         object = ServiceReports.before(ObjectManagement.class, object, to);
+         ownership = ServiceReports.before(OwnershipManagement.class, ownership, to);
+         time = ServiceReports.before(TimeManagement.class, time, to);
+         data = ServiceReports.before(DataDistributionManagement.class, data, to);
+         support = ServiceReports.before(SupportServices.class, support, to);
       }
    }
 

@@ -2,6 +2,7 @@
 package skerry.tarn1516e.standin;
 
 import java.io.Serializable;
+import java.util.ArrayList;
 import java.util.EnumSet;
 import java.util.HashSet;
 
@@ -29,6 +30,16 @@ final class Member implements Serializable {
    /** Whether messages tell the member who sent them, and over which regions. */
    boolean isToldProducer;
    boolean isToldRegions;
+
+   /** The modules that it brought along. */
+   final ArrayList<String> moduleNames = new ArrayList<>();
+
+   /** Counts the changes of the period of its reports. */
+   int timingRound;
+
+   private boolean _isReportingServices;
+   private boolean _isReportingExceptions;
+   private int _reports;
 
    // What a save does not keep.
    private transient Federation _federation;
@@ -104,6 +115,24 @@ final class Member implements Serializable {
 
    TimeState time() {
       return _time;
+   }
+
+   boolean isReportingServices() {
+      return _isReportingServices;
+   }
+
+   boolean isReportingExceptions() {
+      return _isReportingExceptions;
+   }
+
+   void setReporting(boolean services, boolean exceptions) {
+      _isReportingServices = services;
+      _isReportingExceptions = exceptions;
+      _connection.report(services || exceptions);
+   }
+
+   int nextReport() {
+      return _reports++;
    }
 
    boolean isAdvised(Advisory advisory) {

@@ -10,6 +10,10 @@ final class Mim {
    static final String FEDERATION = "HLAobjectRoot.HLAmanager.HLAfederation";
    static final String FEDERATE = "HLAobjectRoot.HLAmanager.HLAfederate";
 
+   static final String INTERACTIONS = "HLAinteractionRoot.HLAmanager";
+   static final String SERVICE_INVOCATION =
+         INTERACTIONS + ".HLAfederate.HLAreport.HLAreportServiceInvocation";
+
    /** The dimensions that attributes and reports about one federate have. */
    static final String FEDERATE_DIMENSION = "HLAfederate";
    static final String SERVICE_GROUP_DIMENSION = "HLAserviceGroup";

@@ -219,7 +219,7 @@ final class ObjectService implements ObjectManagement {
       }
    }
 
-   /** Each other owner is asked for what it owns. */
+   /** The RTI answers at once for its own instances. Each other owner is asked for what it owns. */
    static void requestUpdate(
          Member member, ObjectInstance instance, Set<Integer> attributes, byte[] tag) {
       for (Member owner : member.federation().members()) {
@@ -228,6 +228,9 @@ final class ObjectService implements ObjectManagement {
          if (owner != member && !asked.isEmpty()) {
             owner.callbacks().provideAttributeValueUpdate(instance.handle, asked, tag);
          }
+      }
+      if (instance.producer == 0) {
+         member.federation().mom().provide(instance, attributes);
       }
    }
 

@@ -177,6 +177,8 @@ final class OwnershipService implements OwnershipManagement {
                            .attributes.get(attribute).owner;
       if (owner == null) {
          member.callbacks().attributeIsNotOwned(object, attribute);
+      } else if (owner == member.federation().mom().rti()) {
+         member.callbacks().attributeIsOwnedByRTI(object, attribute);
       } else {
          member.callbacks().informAttributeOwnership(object, attribute, owner.handle());
       }

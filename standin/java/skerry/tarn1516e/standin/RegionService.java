@@ -160,6 +160,7 @@ final class RegionService implements DataDistributionManagement {
          int interaction, boolean isActive, Set<Integer> handles) throws RTIexception {
       Member member = _loopback.workingMember();
       Fom.InteractionClass found = Checks.interaction(member, interaction);
+      Checks.mayGetReports(member, found);
       member.declarations().makeInterest(interaction).subscribe(
             new Interest.Subscription(isActive, ""), checkRegions(member, found, handles));
       member.declarations().dropEmptyInterests();

@@ -35,6 +35,9 @@ final class SaveRestore {
    private String _label;
    private LogicalTime _awaitedTime;
    private boolean _isFailed;
+   private LogicalTime _begunTime;
+   private String _lastLabel = "";
+   private LogicalTime _lastTime;
    private final Map<Member, Integer> _states = new LinkedHashMap<>();
 
    /** By label. */
@@ -49,6 +52,28 @@ final class SaveRestore {
 
    boolean isBusy() {
       return _phase != Phase.IDLE;
+   }
+
+   boolean isSaving() {
+      return _phase == Phase.SAVING;
+   }
+
+   // What the management object model tells of saves. A null time: none.
+
+   String lastLabel() {
+      return _lastLabel;
+   }
+
+   LogicalTime lastTime() {
+      return _lastTime;
+   }
+
+   String nextLabel() {
+      return _awaitedTime == null ? "" : _label;
+   }
+
+   LogicalTime nextTime() {
+      return _awaitedTime;
    }
 
    void checkIdle() throws SaveInProgress, RestoreInProgress {
@@ -73,6 +98,7 @@ final class SaveRestore {
    void requestSave(String label, LogicalTime time) {
       _label = label;
       _awaitedTime = time;
+      _begunTime = time;
       if (time == null) {
          beginSave(member -> member.callbacks().initiateFederateSave(label));
       } else {
@@ -145,6 +171,8 @@ final class SaveRestore {
          fail(FEDERATE_FAILED);
       } else if (_phase == Phase.SAVING) {
          _saved.put(_label, _federation.snapshot());
+         _lastLabel = _label;
+         _lastTime = _begunTime;
          end(each -> each.callbacks().federationSaved());
       } else {
          _federation.restore(_saved.get(_label), new LinkedHashMap<>(_becomes));

@@ -46,6 +46,7 @@ final class TimeService implements TimeManagement {
       Member member = _loopback.workingMember();
       checkRegulating(member.time());
       member.time().isRegulating = false;
+      member.federation().mom().changed(member, "HLAtimeRegulating");
       member.time().sent.clear();
       member.federation().clock().update();
    }

@@ -129,6 +129,7 @@ final class TimeState implements Serializable {
       _member.callbacks()
             .before(ifMember(() -> isRegulationPending = false))
             .timeRegulationEnabled(_time.encode());
+      _member.federation().mom().changed(_member, "HLAtimeRegulating");
    }
 
    void constrain() {
@@ -136,10 +137,12 @@ final class TimeState implements Serializable {
       _member.callbacks()
             .before(ifMember(() -> isConstraintPending = false))
             .timeConstrainedEnabled(_time.encode());
+      _member.federation().mom().changed(_member, "HLAtimeConstrained");
    }
 
    void endConstraint() {
       isConstrained = false;
+      _member.federation().mom().changed(_member, "HLAtimeConstrained");
       List<Message> waiting = new ArrayList<>(_queue);
       _queue.clear();
       waiting.forEach(message -> message.deliver(_member, Fom.RECEIVE));

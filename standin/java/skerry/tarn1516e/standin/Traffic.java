@@ -106,6 +106,7 @@ final class Traffic {
             received.put(member, as.handle);
          }
       }
+      MomRequests.take(_sender, interaction, values);
       int transportation = _sender.declarations().transportation(interaction);
       _sender.counts().sent(interaction.handle, transportation);
       send(new Interaction(envelope(_sender.declarations().order(interaction), tag), values,

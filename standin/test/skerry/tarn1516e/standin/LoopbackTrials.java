@@ -55,6 +55,7 @@ public final class LoopbackTrials {
       ownershipScenes();
       regionScenes();
       federationScenes();
+      managementScenes();
       TRIALS.put("cost", LoopbackTrials::cost);
       TRIALS.put("lost connection", LoopbackTrials::lostConnection);
       TRIALS.put("immediate callbacks", LoopbackTrials::immediateCallbacks);
@@ -526,6 +527,48 @@ public final class LoopbackTrials {
             "a publishObjectClassAttributes Ship Name", "s = a registerObjectInstance Ship",
             "b listFederationExecutions", "b resignFederationExecution 5",
             "b: reportFederationExecutions [{F}:HLAinteger64Time]", "a resignFederationExecution 0");
+   }
+
+   private static void managementScenes() {
+      String reports = "HLAmanager.HLAfederate.HLAreport.HLAreport";
+      String requests = "HLAmanager.HLAfederate.HLArequest.HLArequest";
+      String adjusts = "HLAmanager.HLAfederate.HLAadjust.HLAset";
+      scene("who is there", "Federate = a getObjectClassHandle HLAmanager.HLAfederate",
+            "Called = a getAttributeHandle Federate HLAfederateName",
+            "Now = a getAttributeHandle Federate HLAlogicalTime",
+            "a subscribeObjectClassAttributes Federate Called,Now true -",
+            "a: discoverObjectInstance 2 Federate HLAfederate1"
+                  + " | discoverObjectInstance 3 Federate HLAfederate2",
+            "a requestAttributeValueUpdate_OIH_AHS_BX 3 Called @7",
+            "a: reflectAttributeValues 3 [Called=<3>B 2] 0 1 over [2]",
+            "a queryAttributeOwnership 3 Called", "a: attributeIsOwnedByRTI 3 Called",
+            "Timing = a getInteractionClassHandle " + adjusts + "Timing",
+            "Who = a getParameterHandle Timing HLAfederate",
+            "Period = a getParameterHandle Timing HLAreportPeriod",
+            "a publishInteractionClass Timing", "a sendInteraction Timing Who=i2,Period=i1 @7",
+            "a: ", "a evokeCallback 5 ? false", "a sendInteraction Timing Who=i2,Period=i0 @7",
+            "a: reflectAttributeValues 3 [Called=<3>B 2, Now=<8>] 0 1 over [2]",
+            "b resignFederationExecution 5", "a: removeObjectInstance 3 0");
+      scene("reports", "Ask = a getInteractionClassHandle " + requests + "Subscriptions",
+            "Report = a getInteractionClassHandle " + reports + "ObjectClassSubscription",
+            "Who = a getParameterHandle Ask HLAfederate", "a subscribeInteractionClass Report true",
+            "a subscribeObjectClassAttributes Ship Name true Slow", "a publishInteractionClass Ask",
+            "a sendInteraction Ask Who=i1 @7",
+            "a: receiveInteraction Report [Who=<4><1>, 16=<1>, 17=<4><{Ship}>,"
+                  + " 18=<1>, 19=<4>Slow, 20=<1><4>.] 0 1 over [1]",
+            "Services = a getInteractionClassHandle " + adjusts + "ServiceReporting",
+            "On = a getParameterHandle Services HLAreportingState",
+            "Invocation = a getInteractionClassHandle " + reports + "ServiceInvocation",
+            "b subscribeInteractionClass Invocation true", "a publishInteractionClass Services",
+            "a sendInteraction Services Who=i1,On=i1 @7",
+            "a subscribeInteractionClass Invocation true"
+                  + " ! FederateServiceInvocationsAreBeingReportedViaMOM",
+            "a getOrderName 1 ? TimeStamp",
+            "b: receiveInteraction Invocation [Who=<4><1>, 39=<25>subscribeInteractionClass, 40=,"
+                  + " 41=<2><2>{Invocation}<4>true, 42=,"
+                  + " 43=0FederateServiceInvocationsAreBeingReportedViaMOM, 44=] 0 1 over [1]"
+                  + " | receiveInteraction Invocation [Who=<4><1>, 39=<12>getOrderName, 40=<1>,"
+                  + " 41=<1><1>1, 42=<1><9>TimeStamp, 43=, 44=<1>] 0 1 over [1]");
    }
 
    private static int connection(Play play, String federate) throws Exception {

@@ -6,7 +6,7 @@
 //    a service ? 5       compares its answer
 //    a service ! Fault x is refused with that exception, and the words in its message
 //    b: one | two        compares all callbacks since the last time, as Trial tells them
-// Arguments: sets "Name,Position", values "Name=5", attributes over regions "Position:r,q", ranges
+// Arguments: sets "Name,Position", values of one byte or four "Name=5,Text=i6", attributes over regions "Position:r,q", ranges
 // "0-100", times and tags "@5"; "-" is nothing. A "{s}" within a word is what s stands for.
 package skerry.tarn1516e.standin;
 
@@ -137,8 +137,14 @@ final class Play {
          case "List<String>":
             return texts(parts);
          case "Map<Integer, byte[]>":
-            String[] pair = text.split("=");
-            return Trial.value(number(pair[0]), number(pair[1]));
+            Map<Integer, byte[]> values = new TreeMap<>();
+            for (String part : parts) {
+               String[] pair = part.split("=");
+               values.put(number(pair[0]), pair[1].startsWith("i")
+                     ? MomEncoder.of(Integer.parseInt(pair[1].substring(1)))
+                     : new byte[] {Byte.parseByte(pair[1])});
+            }
+            return values;
          case "List<AttributeRegions>":
             String[] both = text.split(":", 2);
             return Collections.singletonList(

@@ -81,11 +81,6 @@ final class Trial {
       return ByteBuffer.allocate(8).putLong(value).array();
    }
 
-   /** One attribute or parameter with a value of one byte. */
-   static Map<Integer, byte[]> value(int handle, int value) {
-      return new TreeMap<>(Collections.singletonMap(handle, new byte[] {(byte) value}));
-   }
-
    /** A callback as text, read by the codes in the native's name: the operation and its fields.
        Tags are left out. */
    private static String describe(int handle, String nativeName, byte[] frame) {
@@ -124,7 +119,7 @@ final class Trial {
             return repeat(in, () -> in.getInt() + ":" + in.getInt() + ":" + in.getInt());
          case "AHVM":
          case "PHVM":
-            return repeat(in, () -> in.getInt() + "=" + oneByte(in));
+            return repeat(in, () -> in.getInt() + "=" + value(in));
          case "LT":
             return "@" + in.getLong();
          case "MRH":
@@ -138,16 +133,23 @@ final class Trial {
       }
    }
 
-   private static int oneByte(ByteBuffer in) {
-      same(1, in.getInt());
-      return in.get();
+   /** A single byte as a number; of more, those that are not 0, as letters where they are such. */
+   private static String value(ByteBuffer in) {
+      byte[] bytes = new byte[in.getInt()];
+      in.get(bytes);
+      StringBuilder text = new StringBuilder();
+      for (byte each : bytes) {
+         text.append(bytes.length == 1 ? "" + each : each == 0 ? ""
+               : each >= ' ' ? "" + (char) each : "<" + each + ">");
+      }
+      return text.toString();
    }
 
    private static String supplement(boolean isRemoval, ByteBuffer in) {
       boolean hasProducer = in.getInt() != 0;
       boolean hasRegions = !isRemoval && in.getInt() != 0;
       String producer = hasProducer ? "from " + in.getInt() : "";
-      return producer + (hasRegions ? " over " + repeat(in, () -> "" + in.getInt()) : "");
+      return (producer + (hasRegions ? " over " + repeat(in, () -> "" + in.getInt()) : "")).trim();
    }
 
    private static String string(ByteBuffer in) {
