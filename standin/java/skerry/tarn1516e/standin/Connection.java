@@ -1,5 +1,5 @@
-// The connection of one ambassador: its callbacks and its membership. Nothing here leads back to the
-// ambassador, so that one that nobody holds any more is found, and its federate counts as lost.
+// The connection of one ambassador: its callbacks and its membership. Nothing here holds the
+// ambassador, so that one that nobody else holds is found, and its federate counts as lost.
 package skerry.tarn1516e.standin;
 
 import hla.rti1516e.exceptions.NotConnected;

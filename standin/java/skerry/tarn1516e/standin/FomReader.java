@@ -1,6 +1,6 @@
-// Merges the modules of an object model, in the order given, behind the standard's management object
-// model. A class may stand in several modules: either without attributes of its own, or with the
-// same ones. What one module tells no other may tell otherwise.
+// Merges the modules of an object model, in the order given, behind the standard's management
+// object model. A class may stand in several modules: either without attributes of its own, or with
+// the same ones. What one module tells no other may tell otherwise.
 package skerry.tarn1516e.standin;
 
 import hla.rti1516e.exceptions.ErrorReadingFDD;
@@ -68,8 +68,8 @@ final class FomReader {
       return new InconsistentFDD(what + " in " + _module.designator);
    }
 
-   /** Names that begin with HLA are the standard's own. What modules repeat of its management object
-       model is taken. */
+   /** Names that begin with HLA are the standard's own. What modules repeat of its management
+       object model is taken. */
    private String newName(String name, String part) throws InconsistentFDD {
       if (!name.matches("[^\\s.]+")) {
          throw inconsistent(part + " has a blank or a dot in its name");

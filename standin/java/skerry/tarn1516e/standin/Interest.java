@@ -1,5 +1,5 @@
-// The subscriptions of one member to one attribute of a class or to an interaction class: one over the
-// whole space, and one over each region. Each has an activity and a rate of its own.
+// The subscriptions of one member to one attribute of a class or to an interaction class: one over
+// the whole space, and one over each region. Each has an activity and a rate of its own.
 package skerry.tarn1516e.standin;
 
 import java.io.Serializable;

@@ -1,5 +1,5 @@
-// The RTI's own part in a federation: the instances of the management object model, which tell who is
-// there, and the reports that federates ask for.
+// The RTI's own part in a federation: the instances of the management object model, which tell who
+// is there, and the reports that federates ask for.
 package skerry.tarn1516e.standin;
 
 import java.util.Collections;
@@ -116,7 +116,8 @@ final class Mom {
             member == null ? MomValues.of(_federation) : MomValues.of(member);
       Map<Integer, byte[]> sent = new TreeMap<>();
       for (int attribute : attributes) {
-         byte[] value = values.get(_federation.fom().attributeName(instance.objectClass, attribute));
+         byte[] value =
+               values.get(_federation.fom().attributeName(instance.objectClass, attribute));
          if (value != null) {
             sent.put(attribute, value);
          }

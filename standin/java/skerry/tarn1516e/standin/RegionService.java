@@ -39,7 +39,8 @@ final class RegionService implements DataDistributionManagement {
    public void deleteRegion(int handle) throws RTIexception {
       Member member = _loopback.workingMember();
       Region region = Checks.ownRegion(member, handle);
-      if (member.declarations().usesRegion(region) || region.associated.stream().anyMatch(each -> each.uses(region))) {
+      if (member.declarations().usesRegion(region)
+            || region.associated.stream().anyMatch(each -> each.uses(region))) {
          throw new RegionInUseForUpdateOrSubscription("the region " + handle + " is in use");
       }
       member.federation().regions.remove(handle);

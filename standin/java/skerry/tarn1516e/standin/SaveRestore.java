@@ -1,5 +1,5 @@
-// Leads the members of a federation through a save or a restore. A save keeps the federation's state
-// within the process; a restore gives it back to members of the same types.
+// Leads the members of a federation through a save or a restore. A save keeps the federation's
+// state within the process; a restore gives it back to members of the same types.
 package skerry.tarn1516e.standin;
 
 import hla.rti1516e.exceptions.*;

@@ -1,5 +1,5 @@
-// Stands before the services of a federate whose calls, or whose failures, are to be reported by the
-// management object model.
+// Stands before the services of a federate whose calls, or whose failures, are to be reported by
+// the management object model.
 package skerry.tarn1516e.standin;
 
 import java.lang.reflect.InvocationHandler;

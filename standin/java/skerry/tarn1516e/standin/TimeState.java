@@ -228,8 +228,8 @@ final class TimeState implements Serializable {
       return _held.size();
    }
 
-   /** Whether nothing up to the time can come to the member or go from it any more, so that it can be
-       saved there: it has passed that time, or is about to ask for more. A null limit: none. */
+   /** Whether nothing up to the time can come to the member or go from it any more, so that it can
+       be saved there. A null limit: none. */
    boolean isThrough(LogicalTime until, Bound limit) {
       boolean isQuiet = !isConstrained || limit == null || limit.excludes(until);
       if (!isAdvancing()) {

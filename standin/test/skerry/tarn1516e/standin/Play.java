@@ -6,8 +6,9 @@
 //    a service ? 5       compares its answer
 //    a service ! Fault x is refused with that exception, and the words in its message
 //    b: one | two        compares all callbacks since the last time, as Trial tells them
-// Arguments: sets "Name,Position", values of one byte or four "Name=5,Text=i6", attributes over regions "Position:r,q", ranges
-// "0-100", times and tags "@5"; "-" is nothing. A "{s}" within a word is what s stands for.
+// Arguments: sets "Name,Position", values of one byte or of four "Name=5,Text=i6", attributes over
+// regions "Position:r,q", ranges "0-100", times and tags "@5"; "-" is nothing. A "{s}" within a
+// word is what s stands for.
 package skerry.tarn1516e.standin;
 
 import hla.rti1516e.exceptions.RTIexception;
@@ -49,7 +50,8 @@ final class Play {
       Matcher expected = EXPECTED.matcher(step);
       if (expected.matches()) {
          String all = replaced(expected.group(2));
-         federates.get(expected.group(1)).expect(all.isEmpty() ? new String[0] : all.split(" \\| "));
+         String[] callbacks = all.isEmpty() ? new String[0] : all.split(" \\| ");
+         federates.get(expected.group(1)).expect(callbacks);
          return;
       }
       Matcher call = CALL.matcher(step);
