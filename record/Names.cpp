@@ -13,7 +13,7 @@ namespace record {
 
 namespace {
 
-std::size_t const slots = 1 << 16;
+std::size_t const slots = 65536;
 std::size_t const mostProbes = 32;
 std::size_t const longestName = 80;      // in characters
 std::size_t const mostNames = slots * 4; // with those that were replaced

@@ -17,8 +17,8 @@ namespace record {
 
 // What one thread has recorded. It is the thread's alone but for what stands before `used`.
 struct ThreadLog {
-   static std::size_t const size = 256 * 1024;
-   static std::size_t const roomForEvent = 64 * 1024;
+   static std::size_t const size = 262144;
+   static std::size_t const roomForEvent = 65536;
 
    std::atomic<std::size_t> used{0};
    std::size_t written = 0;         // of it, in the file; guarded by the recording's mutex

@@ -108,14 +108,17 @@ void Text::quoted(char const* text)
 {
    put('"');
    for (; *text != '\0' && hasRoom(16); ++text) {
-      escaped(static_cast<unsigned char>(*text) < 0x80 ? static_cast<wchar_t>(*text) : L'?');
+      unsigned char const c = static_cast<unsigned char>(*text);
+      escaped(c < 0x80 ? static_cast<wchar_t>(c) : L'?');
    }
    put('"');
 }
 
-void Text::escapedSpecial(wchar_t wide)
+void Text::escapedSpecial(long c)
 {
-   unsigned long c = static_cast<unsigned long>(wide);
+   if (c < 0 || c > 0x10ffff || (c >= 0xd800 && c < 0xe000)) {
+      c = 0xfffd; // no character
+   }
    if (c == '"' || c == '\\') {
       put('\\');
       put(static_cast<char>(c));
@@ -126,9 +129,6 @@ void Text::escapedSpecial(wchar_t wide)
       put(static_cast<char>(0xc0 | c >> 6));
       put(static_cast<char>(0x80 | (c & 0x3f)));
    } else {
-      if (c > 0x10ffff || (c >= 0xd800 && c < 0xe000)) {
-         c = 0xfffd; // no character
-      }
       if (c < 0x10000) {
          put(static_cast<char>(0xe0 | c >> 12));
       } else {

@@ -75,7 +75,7 @@ public:
    }
 
 private:
-   void escapedSpecial(wchar_t c);
+   void escapedSpecial(long c);
    void putMillionths(long long value);
 
    char* _begin;

@@ -140,14 +140,21 @@ void showNumber(Place const& to, char const (&className)[Size], Number number)
    to.text.put(">\"");
 }
 
-template <class Time>
-void showText(Place const& to, Time const& time)
+// What a federate's own class says of itself.
+template <class Say>
+void showSaid(Place const& to, Say const& say)
 {
    try {
-      to.text.quoted(time.toString());
+      to.text.quoted(say());
    } catch (...) {
       to.text.put("null");
    }
+}
+
+template <class Value>
+void showText(Place const& to, Value const& value)
+{
+   showSaid(to, [&] { return value.toString(); });
 }
 
 } // namespace
@@ -439,7 +446,7 @@ void show(Place const& to, std::auto_ptr<LogicalTimeFactory> const& factory)
    if (factory.get() == nullptr) {
       to.text.put("null");
    } else {
-      to.text.quoted(factory->getName());
+      showSaid(to, [&] { return factory->getName(); });
    }
 }
 

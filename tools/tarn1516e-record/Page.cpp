@@ -111,6 +111,24 @@ void drawLane(Plot& plot, Trace const& trace, std::vector<Call const*> const& ca
    }
 }
 
+// Threads by their first call; one without a call is not shown.
+std::vector<std::size_t> threadsInOrder(Trace const& trace)
+{
+   std::map<std::size_t, double> first;
+   for (Call const& call : trace.calls) {
+      if (call.category != Category::start) {
+         first.emplace(call.thread, call.begin);
+      }
+   }
+   std::vector<std::size_t> order;
+   for (auto const& entry : first) {
+      order.push_back(entry.first);
+   }
+   std::sort(order.begin(), order.end(),
+         [&](std::size_t a, std::size_t b) { return first[a] < first[b]; });
+   return order;
+}
+
 void drawTimeline(std::ostream& out, Trace const& trace, Analysis const& analysis)
 {
    std::map<std::pair<std::size_t, std::size_t>, std::vector<Call const*>> lanes;
@@ -121,11 +139,12 @@ void drawTimeline(std::ostream& out, Trace const& trace, Analysis const& analysi
    }
    std::map<std::size_t, double> tops; // of threads
    double height = 6;
-   for (auto const& lane : lanes) {
-      if (tops.emplace(lane.first.first, height).second) {
-         height += 10;
+   for (std::size_t const thread : threadsInOrder(trace)) {
+      tops[thread] = height;
+      for (std::size_t depth = 0; lanes.count({thread, depth}) != 0; ++depth) {
+         height += laneHeight;
       }
-      height += laneHeight;
+      height += 10;
    }
    Plot plot(out, height, analysis.wall);
    plot.setRange(0, 1);
@@ -176,9 +195,22 @@ bool isMessage(Call const& call)
          || call.name == "removeObjectInstance";
 }
 
+bool isGrant(Call const& call)
+{
+   return call.name == "timeAdvanceGrant" || call.name == "timeRegulationEnabled"
+         || call.name == "timeConstrainedEnabled";
+}
+
+// Of the federates that have a time, though they may never advance it.
 std::map<int, Advance> findAdvances(Trace const& trace, Analysis const& analysis)
 {
    std::map<int, Advance> advances;
+   for (Call const& call : trace.calls) {
+      if (call.hasTime && isGrant(call)) {
+         advances[call.ambassador].grants.push_back(&call);
+         advances[call.ambassador].include(call);
+      }
+   }
    for (Wait const& wait : analysis.waits) {
       Call const& request = trace.calls[wait.request];
       if (request.hasTime) {
@@ -190,12 +222,8 @@ std::map<int, Advance> findAdvances(Trace const& trace, Analysis const& analysis
       if (!call.hasTime || advances.count(call.ambassador) == 0) {
          continue;
       }
-      Advance& advance = advances[call.ambassador];
-      if (call.name == "timeAdvanceGrant" || call.name == "timeRegulationEnabled"
-            || call.name == "timeConstrainedEnabled") {
-         advance.grants.push_back(&call);
-         advance.include(call);
-      } else if (isMessage(call)) {
+      if (isMessage(call)) {
+         Advance& advance = advances[call.ambassador];
          (call.category == Category::service ? advance.sent : advance.received).push_back(&call);
          advance.include(call);
       }
@@ -277,7 +305,7 @@ void drawLogicalTime(std::ostream& out, Trace const& trace, Analysis const& anal
 {
    std::map<int, Advance> const advances = findAdvances(trace, analysis);
    if (advances.empty()) {
-      out << "<p>No federate asked to advance its time.</p>\n";
+      out << "<p>No federate has a logical time.</p>\n";
    }
    for (auto const& entry : advances) {
       Advance const& advance = entry.second;
