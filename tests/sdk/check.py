@@ -139,11 +139,9 @@ CASES = (
          lambda p: p.option_file("# none\n-Xmx100m\n"),
          {"TARN1516_OPTION3": "-Da=b"},
          also=("options         -Da=b (TARN1516_OPTION3), -Xmx100m (tarn.vmoptions)",)),
-    case("a class path that partly exists, with a name in no encoding", None,
-         {"CLASSPATH": '/no/\udcff"\\.jar:{jar}'},
-         warnings=(("class path", 'CLASSPATH leads nowhere: /no/\ufffd"\\.jar'),)),
-    case("a class path to nowhere", None, {"CLASSPATH": "/no/such.jar:/no/*"},
-         warnings=(("class path", "CLASSPATH leads nowhere: /no/such.jar, /no/*"),)),
+    case("a class path to nowhere, with a name in no encoding", None,
+         {"CLASSPATH": '/no/*:/no/\udcff"\\.jar'},
+         warnings=(("class path", 'CLASSPATH leads nowhere: /no/*, /no/\ufffd"\\.jar'),)),
     case("a class that hides the jar's", Place.class_in_the_way, also=("jar             {work}\n",),
          warnings=(("jar", "{work} has skerry.tarn1516e.RtiFactoryImpl, and hides the one of {jar}"),)),
     case("options that go astray", lambda p: p.option_file(" -Da=b\n-Dx=y\r\n"),
@@ -327,26 +325,20 @@ def try_case(one, place, differences):
     for text in one["also"]:
         differences.check(one["name"], text.format(**names) in output + as_json,
                           f"no '{text.format(**names)}' in\n{output}")
-    told = list(lines_of_json(as_json))
-    differences.check(f"{one['name']}, as JSON", told == output.splitlines()[:len(told)], as_json)
+    told = [line for line in output.splitlines()
+            if line[:16].strip() in STEPS or line.startswith("What to do: ")]
+    differences.check(f"{one['name']}, as JSON", told == list(lines_of_json(as_json)), as_json)
     differences.check(one["name"], not processes_in(place), "a process is left")
 
 
 def processes_in(place):
     """Those that are still there after a while: a process ends a little behind the one that it serves."""
     for _ in range(20):
-        left = [path for path in Path("/proc").glob("[0-9]*/cwd") if cwd_of(path) == place.work]
-        if not left:
-            break
+        left = sdk.run("find", "/proc", "-maxdepth", "2", "-lname", place.work, expect=None)
+        if "/cwd\n" not in left:
+            return ""
         time.sleep(0.1)
     return left
-
-
-def cwd_of(path):
-    try:
-        return path.readlink()
-    except OSError:  # it has ended, or is another user's
-        return None
 
 
 def kill_while_it_waits(place, differences):
