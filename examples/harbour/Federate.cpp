@@ -9,21 +9,6 @@ using namespace rti1516e;
 
 namespace {
 
-std::wstring const federation = L"Harbour";
-std::wstring const start = L"ReadyToSail";
-
-VariableLengthData tagOf(std::wstring const& text)
-{
-   std::string const narrow(text.begin(), text.end());
-   return VariableLengthData(narrow.data(), narrow.size());
-}
-
-std::wstring textOf(VariableLengthData const& tag)
-{
-   char const* const bytes = static_cast<char const*>(tag.data());
-   return std::wstring(bytes, bytes + tag.size());
-}
-
 long long valueOf(LogicalTime const& time)
 {
    return dynamic_cast<HLAinteger64Time const&>(time).getTime();
@@ -76,6 +61,14 @@ void Federate::run(int steps)
    for (long long time = 1; time <= steps; ++time) {
       step(time);
    }
+}
+
+// The lookout comes late, asks for what it has missed, and announces the point when it is done.
+void Federate::stay()
+{
+   waitUntil([this] { return _announced.count(seen) != 0; });
+   _rti->synchronizationPointAchieved(seen);
+   waitUntil([this] { return _synchronized.count(seen) != 0; });
 }
 
 void Federate::leave()
@@ -147,19 +140,23 @@ void Federate::step(long long time)
 
 void Federate::sendShip(long long time)
 {
-   Ship ship = {L"MS " + _name, 10.5 * static_cast<double>(time), -0.25, {L"timber", L"\x9c7c"}};
-   ship.cargo.resize(static_cast<std::size_t>(time % 3), L"salt");
-   AttributeHandleValueMap values;
-   values[_shipName] = encodeText(ship.name);
-   values[_position] = encodePosition(ship.x, ship.y);
-   values[_cargo] = encodeCargo(ship.cargo);
-
+   _sent = {L"MS " + _name, 10.5 * static_cast<double>(time), -0.25, {L"timber", L"\x9c7c"}};
+   _sent.cargo.resize(static_cast<std::size_t>(time % 3), L"salt");
    std::wstring const tag = _name + L" ship" + at(time);
-   _ledger.sent(tag, time, ship);
+   _ledger.sent(tag, time, _sent);
    _ledger.say(_name,
-         L"sends its ship" + at(time) + L": x " + std::to_wstring(ship.x) + L", "
-               + std::to_wstring(ship.cargo.size()) + L" pieces of cargo");
-   _rti->updateAttributeValues(_ship, values, tagOf(tag), HLAinteger64Time(time));
+         L"sends its ship" + at(time) + L": x " + std::to_wstring(_sent.x) + L", "
+               + std::to_wstring(_sent.cargo.size()) + L" pieces of cargo");
+   _rti->updateAttributeValues(_ship, encoded(), tagOf(tag), HLAinteger64Time(time));
+}
+
+AttributeHandleValueMap Federate::encoded() const
+{
+   AttributeHandleValueMap values;
+   values[_shipName] = encodeText(_sent.name);
+   values[_position] = encodePosition(_sent.x, _sent.y);
+   values[_cargo] = encodeCargo(_sent.cargo);
+   return values;
 }
 
 void Federate::sendSignal(long long time)
@@ -240,6 +237,22 @@ void Federate::discoverObjectInstance(ObjectInstanceHandle object, ObjectClassHa
       std::wstring const& name, FederateHandle)
 {
    discoverObjectInstance(object, objectClass, name);
+}
+
+// Somebody who came late wants to know what was sent before: answered without a time, at once.
+void Federate::provideAttributeValueUpdate(
+      ObjectInstanceHandle object, AttributeHandleSet const& wanted, VariableLengthData const& tag)
+{
+   AttributeHandleValueMap values;
+   for (AttributeHandleValueMap::value_type const& value : encoded()) {
+      if (wanted.count(value.first) != 0) {
+         values.insert(value);
+      }
+   }
+   std::wstring const answer = _name + L" ship for " + textOf(tag);
+   _ledger.sent(answer, Ledger::noTime, _sent);
+   _rti->updateAttributeValues(object, values, tagOf(answer));
+   _inbox.happened(L"tells " + textOf(tag) + L" of its ship");
 }
 
 // An update may hold any of the attributes; of the others the last value stays.

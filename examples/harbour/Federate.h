@@ -24,8 +24,11 @@ public:
    // Registers the synchronization point at which both begin.
    void registerStart();
 
-   // From the synchronization point to the resignation.
+   // From the synchronization point at the start through the time steps.
    void run(int steps);
+
+   // Until the lookout has seen everything.
+   void stay();
 
    // Only the last one to leave succeeds in destroying the federation execution.
    void leave();
@@ -40,6 +43,7 @@ private:
    void step(long long time);
    void sendShip(long long time);
    void sendSignal(long long time);
+   rti1516e::AttributeHandleValueMap encoded() const;
    void waitUntil(std::function<bool()> const& condition);
 
    // Callbacks.
@@ -69,6 +73,9 @@ private:
          rti1516e::OrderType sent, rti1516e::TransportationType type,
          rti1516e::LogicalTime const& time, rti1516e::OrderType received,
          rti1516e::MessageRetractionHandle handle, rti1516e::SupplementalReflectInfo info) override;
+   void provideAttributeValueUpdate(rti1516e::ObjectInstanceHandle object,
+         rti1516e::AttributeHandleSet const& wanted,
+         rti1516e::VariableLengthData const& tag) override;
    void removeObjectInstance(rti1516e::ObjectInstanceHandle object,
          rti1516e::VariableLengthData const& tag, rti1516e::OrderType sent,
          rti1516e::SupplementalRemoveInfo info) override;
@@ -95,6 +102,7 @@ private:
    rti1516e::InteractionClassHandle _signalClass;
    rti1516e::ParameterHandle _text, _strength;
    rti1516e::ObjectInstanceHandle _ship;
+   Ship _sent; // its last state, which others know
 
    // What callbacks change.
    Inbox _inbox;

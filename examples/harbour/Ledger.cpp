@@ -8,7 +8,7 @@ typedef std::lock_guard<std::mutex> Guard;
 void Ledger::say(std::wstring const& federate, std::wstring const& text)
 {
    Guard const guard(_mutex);
-   std::wcout << std::left << std::setw(6) << federate << L" | " << text << std::endl;
+   std::wcout << std::left << std::setw(7) << federate << L" | " << text << std::endl;
 }
 
 void Ledger::sent(std::wstring const& tag, long long time, Ship const& ship)

@@ -13,6 +13,9 @@ class Ledger {
 public:
    void say(std::wstring const& federate, std::wstring const& text);
 
+   // For messages that carry none.
+   static long long const noTime = -1;
+
    // A message is known by the tag that travels with it.
    void sent(std::wstring const& tag, long long time, Ship const& ship);
    void sent(std::wstring const& tag, long long time, Signal const& signal);

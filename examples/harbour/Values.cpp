@@ -6,6 +6,10 @@
 
 using namespace rti1516e;
 
+std::wstring const federation = L"Harbour";
+std::wstring const start = L"ReadyToSail";
+std::wstring const seen = L"SeenByLookout";
+
 bool operator==(Ship const& left, Ship const& right)
 {
    return left.name == right.name && left.x == right.x && left.y == right.y
@@ -15,6 +19,18 @@ bool operator==(Ship const& left, Ship const& right)
 bool operator==(Signal const& left, Signal const& right)
 {
    return left.text == right.text && left.strength == right.strength;
+}
+
+VariableLengthData tagOf(std::wstring const& text)
+{
+   std::string const narrow(text.begin(), text.end());
+   return VariableLengthData(narrow.data(), narrow.size());
+}
+
+std::wstring textOf(VariableLengthData const& tag)
+{
+   char const* const bytes = static_cast<char const*>(tag.data());
+   return std::wstring(bytes, bytes + tag.size());
 }
 
 VariableLengthData encodeText(std::wstring const& text)

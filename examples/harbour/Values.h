@@ -7,6 +7,12 @@
 #include <string>
 #include <vector>
 
+// The federation execution, and the synchronization points at which its federates wait for each
+// other: before the first ship sails, and when the lookout has seen everything.
+extern std::wstring const federation;
+extern std::wstring const start;
+extern std::wstring const seen;
+
 // The attributes of object class Ship.
 struct Ship {
    std::wstring name;
@@ -23,6 +29,10 @@ struct Signal {
 
 bool operator==(Ship const& left, Ship const& right);
 bool operator==(Signal const& left, Signal const& right);
+
+// Tags are texts of ASCII letters.
+rti1516e::VariableLengthData tagOf(std::wstring const& text);
+std::wstring textOf(rti1516e::VariableLengthData const& tag);
 
 // Name and text are an HLAunicodeString, the position is an HLAfixedRecord of two HLAfloat64BE, the
 // cargo an HLAvariableArray of HLAunicodeString, the strength an HLAinteger32BE. What can't be

@@ -1,10 +1,13 @@
-// Two federates in one process, each with an ambassador of its own: one takes its callbacks when it
-// asks for them, the other one whenever they come. Ends with 0 if everything sent arrived as sent.
+// Two ships in one process, each a federate with an ambassador of its own: one takes its callbacks
+// when it asks for them, the other one whenever they come. A third federate comes late and looks
+// who is there. Ends with 0 if everything sent arrived as sent.
 #include "../Text.h"
 #include "Federate.h"
+#include "Lookout.h"
 
 #include <clocale>
 #include <exception>
+#include <functional>
 #include <iostream>
 #include <thread>
 
@@ -12,10 +15,10 @@ namespace {
 
 int const steps = 5;
 
-void runGuarded(Federate& federate, Ledger& ledger)
+void runGuarded(Ledger& ledger, std::function<void()> const& life)
 {
    try {
-      federate.run(steps);
+      life();
    } catch (rti1516e::Exception const& e) {
       ledger.failed(e.what());
    } catch (std::exception const& e) {
@@ -29,18 +32,31 @@ int runFederation(std::wstring const& fomModule)
    Ledger ledger;
    Federate pilot(L"Pilot", rti1516e::HLA_EVOKED, ledger);
    Federate tower(L"Tower", rti1516e::HLA_IMMEDIATE, ledger);
+   Lookout lookout(L"Lookout", ledger);
    pilot.join(fomModule);
    tower.join(fomModule);
    pilot.registerStart();
 
-   std::thread towerThread([&] { runGuarded(tower, ledger); });
-   runGuarded(pilot, ledger);
-   towerThread.join();
+   std::thread sailing([&] { runGuarded(ledger, [&] { tower.run(steps); }); });
+   runGuarded(ledger, [&] { pilot.run(steps); });
+   sailing.join();
+
+   std::thread pilotStaying([&] { runGuarded(ledger, [&] { pilot.stay(); }); });
+   std::thread towerStaying([&] { runGuarded(ledger, [&] { tower.stay(); }); });
+   runGuarded(ledger, [&] {
+      lookout.join();
+      lookout.look({L"Pilot", L"Tower", L"Lookout"});
+      lookout.finish();
+   });
+   pilotStaying.join();
+   towerStaying.join();
    pilot.leave();
    tower.leave();
+   lookout.leave();
 
-   std::wcout << pilot.services() + tower.services() << L" services called, "
-              << pilot.callbacks() + tower.callbacks() << L" callbacks received" << std::endl;
+   std::wcout << pilot.services() + tower.services() + lookout.services() << L" services called, "
+              << pilot.callbacks() + tower.callbacks() + lookout.callbacks()
+              << L" callbacks received" << std::endl;
    return ledger.close() ? 0 : 1;
 }
 
