@@ -175,7 +175,7 @@ std::unique_ptr<VariableLengthData>& spareOf(VariableLengthData*)
    return spares().tag;
 }
 
-std::size_t const mostKept = 64 * 1024; // bytes
+std::size_t const mostKept = 65536; // bytes
 
 } // namespace
 
