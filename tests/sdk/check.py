@@ -196,7 +196,7 @@ CASES = (
          advice="move the installation", warnings=(("home", "{home} holds a colon"),)),
     case("a home that Java can't read", lambda p: p.move_to("\xe9"), {"LC_ALL": "C"}, step="jar",
          finding="Java does not find {jar}: the home's path holds letters",
-         advice="move the installation", warnings=(("home", "{home} holds letters"),)),
+         advice="set LC_ALL to a locale", warnings=(("home", "{home} holds letters"),)),
     # A wrong jar.
     case("a jar that is a text", lambda p: p.jar.write_text("no jar"), step="jar",
          finding="{jar} is no jar", advice="put the RTI's own tarn1516e.jar in its place."),

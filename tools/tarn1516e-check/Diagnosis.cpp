@@ -56,6 +56,14 @@ std::string firstLine(std::string const& text)
    return text.substr(0, text.find('\n'));
 }
 
+std::string remedyOfPath(std::string const& path)
+{
+   std::string const move = "move the installation to a folder with a plain name.";
+   return path.find(':') != std::string::npos
+         ? move
+         : "set LC_ALL to a locale that has them, such as C.UTF-8, or " + move;
+}
+
 // Where the library looks for the home, in its order, and takes it from.
 std::string findHome()
 {
@@ -148,9 +156,7 @@ bool Diagnosis::home()
    std::string const marker = tarn1516e::markerBelowHome;
    std::string const reason = whyJavaCannotRead(_home);
    if (!reason.empty()) {
-      _report.warn(resolved(_home) + " " + reason,
-            "move the installation to a folder with a plain name, or name its jar in CLASSPATH by "
-            "a link that has one.");
+      _report.warn(resolved(_home) + " " + reason, remedyOfPath(_home));
    }
    if (exists(around + "/" + marker)) {
       return _report.found(resolved(_home) + " (the library lies in it"
@@ -422,7 +428,7 @@ bool Diagnosis::jar()
    if (!isLocated && !reason.empty()) {
       return _report.failed(
             "Java does not find " + below(tarn1516e::jarBelowHome) + ": the home's path " + reason,
-            "move the installation to a folder with a plain name.");
+            remedyOfPath(_home));
    }
    if (element.empty()) {
       return isLocated ? _report.found("none; the classes come by way of a VM option") : noJar();
