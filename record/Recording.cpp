@@ -3,6 +3,7 @@
 
 #include "record/Text.h"
 
+#include <chrono>
 #include <csignal>
 #include <cstdint>
 #include <cstdlib>
@@ -160,12 +161,24 @@ void Recording::adopt(ThreadLog& log)
    log.used.store(out.size(), std::memory_order_release);
 }
 
+void Recording::makeRoom(ThreadLog& log, std::size_t used)
+{
+   if (!log.isAnnounced) {
+      log.isAnnounced = true;
+      _flusherIsWanted.notify_one();
+   }
+   if (ThreadLog::size - used < ThreadLog::roomForEvent) {
+      empty(log);
+   }
+}
+
 void Recording::empty(ThreadLog& log)
 {
    std::lock_guard<std::mutex> const guard(_mutex);
    write(log);
    log.written = 0;
    log.used.store(0, std::memory_order_relaxed);
+   log.isAnnounced = false;
 }
 
 void Recording::write(ThreadLog& log)
@@ -210,9 +223,9 @@ void Recording::startFlusher()
 void* Recording::flushNowAndThen(void* recording)
 {
    Recording& self = *static_cast<Recording*>(recording);
+   std::unique_lock<std::mutex> lock(self._flusherMutex);
    while (self.isOn()) {
-      timespec const pause{0, 500000000};
-      nanosleep(&pause, nullptr);
+      self._flusherIsWanted.wait_for(lock, std::chrono::milliseconds(500));
       self.flush();
    }
    return nullptr;

@@ -1,12 +1,14 @@
 // The one recording of this process: the file, and a buffer for each thread that has something to
 // tell. A thread writes to its own buffer without a lock; a lock is taken where a buffer goes into
-// the file, by its thread when it is full and by a thread of the recorder's own twice a second.
+// the file: by a thread of the recorder's own twice a second and when a buffer is half full, and by
+// the buffer's thread if it is full all the same.
 #ifndef record_Recording_h
 #define record_Recording_h
 
 #include "record/TraceFile.h"
 
 #include <atomic>
+#include <condition_variable>
 #include <cstddef>
 #include <ctime>
 #include <mutex>
@@ -19,11 +21,13 @@ namespace record {
 struct ThreadLog {
    static std::size_t const size = 262144;
    static std::size_t const roomForEvent = 65536;
+   static std::size_t const urgent = size / 2;
 
    std::atomic<std::size_t> used{0};
    std::size_t written = 0;         // of it, in the file; guarded by the recording's mutex
    bool isBuilding = false;         // inside an event; one within it is not recorded
    std::string prefix;              // how each event begins, to its time
+   bool isAnnounced = false;        // that it is half full
    ThreadLog* next = nullptr;       // in the list of all, which only grows
    std::atomic<bool> isFree{false}; // its thread has ended
    char buffer[size];
@@ -54,8 +58,9 @@ public:
       if (mine == nullptr || mine->isBuilding) {
          return nullptr;
       }
-      if (ThreadLog::size - mine->used.load(std::memory_order_relaxed) < ThreadLog::roomForEvent) {
-         empty(*mine);
+      std::size_t const used = mine->used.load(std::memory_order_relaxed);
+      if (used > ThreadLog::urgent) {
+         makeRoom(*mine, used);
       }
       return mine;
    }
@@ -88,6 +93,7 @@ private:
 
    ThreadLog* threadLog();
    void adopt(ThreadLog& log);
+   void makeRoom(ThreadLog& log, std::size_t used);
    void empty(ThreadLog& log);
    void write(ThreadLog& log);
    void startFlusher();
@@ -100,6 +106,8 @@ private:
    unsigned long long _begin = 0;
    std::size_t _shownBytes = 0;
    std::atomic<int> _ambassadors{0};
+   std::mutex _flusherMutex; // for its waiting alone
+   std::condition_variable _flusherIsWanted;
    std::mutex _mutex; // the file's, and of the list of logs
    TraceFile _file;
    std::atomic<ThreadLog*> _logs{nullptr};

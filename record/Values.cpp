@@ -362,11 +362,9 @@ namespace {
 template <class Info>
 void showProducer(Place const& to, Info const& info)
 {
-   to.text.put("\"producing federate\":");
    if (info.hasProducingFederate) {
+      to.text.put("\"producing federate\":");
       show(to, info.producingFederate);
-   } else {
-      to.text.put("null");
    }
 }
 
@@ -376,7 +374,10 @@ void showInfo(Place const& to, Info const& info)
    to.text.put('{');
    showProducer(to, info);
    if (info.hasSentRegions) {
-      to.text.put(",\"sent regions\":");
+      if (info.hasProducingFederate) {
+         to.text.put(',');
+      }
+      to.text.put("\"sent regions\":");
       show(to, info.sentRegions);
    }
    to.text.put('}');
