@@ -16,9 +16,10 @@ def main():
     text = (to.source / "README.md").read_text()
     section = text.split("## The first ten minutes")[1].split("\n## ")[0]
     build, check, trial = commands(section)
+    record, = commands(text.split("## When it does not do what it should")[1].split("\n## ")[0])
     own_time, = commands((to.source / "docs/logical-time.md").read_text())
     for document in (to.source / "README.md", *(to.source / "docs").glob("*.md")):
-        untried = set(commands(document.read_text())) - {build, check, trial, own_time}
+        untried = set(commands(document.read_text())) - {build, check, trial, record, own_time}
         differences.same_lines(f"{document.name}, not run", set(), untried)
     federate = re.search(r"^```cpp\n(.*?)^```$", section, re.DOTALL | re.MULTILINE)[1]
     with sdk.Scratch() as home:
@@ -26,7 +27,8 @@ def main():
             sdk.install(to, *line.replace("~", str(home)).split())
         (home / "tarn/jre").symlink_to(to.jdk)
         (home / "trial.cpp").write_text(federate)
-        steps = ((check, "All is well: a federate starts here."), (trial, "FederateHandle<1>"))
+        steps = ((check, "All is well: a federate starts here."), (trial, "FederateHandle<1>"),
+                 (record, "6 services called"))
         for step, said in steps:
             output = sdk.run("bash", "-ec", step, cwd=home, env={"HOME": home})
             differences.check(step, said in output, output)
