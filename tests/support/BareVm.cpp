@@ -12,6 +12,7 @@
 
 namespace {
 
+bare::State kept;
 std::string const adapterClass = "skerry/tarn1516e/RTIambassadorC2007";
 
 int setting(char const* variable)
@@ -67,7 +68,7 @@ Object& at(jobject reference)
 template <class Reference>
 Reference local(Object* object)
 {
-   bare::state().localReferences += object != nullptr;
+   kept.localReferences += object != nullptr;
    return as<Reference>(object);
 }
 
@@ -98,6 +99,16 @@ void raise(std::string const& className, std::wstring const& message, bool hasMe
    setText(raised, message);
    raised.hasText = hasMessage;
    isPending = true;
+}
+
+std::wstring message()
+{
+   return std::wstring(raised.text.begin(), raised.text.end());
+}
+
+std::wstring toString()
+{
+   return dotted(raised.name) + (raised.hasText ? L": " + message() : L"");
 }
 
 template <class Element>
@@ -132,7 +143,7 @@ jmethodID getMethodId(JNIEnv*, jclass type, char const* name, char const* signat
    }
    std::lock_guard<std::mutex> const lock(namesMutex);
    if (at(type).name == adapterClass) {
-      bare::state().methods[name] = signature;
+      kept.methods[name] = signature;
    }
    Method& method = methods[std::string(name) + signature];
    method = {name, signature};
@@ -146,7 +157,7 @@ jthrowable exceptionOccurred(JNIEnv*)
 
 jboolean isInstanceOf(JNIEnv*, jobject object, jclass type)
 {
-   bare::state().compared.push_back(at(type).name);
+   kept.compared.push_back(at(type).name);
    return at(object).name == at(type).name ? JNI_TRUE : JNI_FALSE;
 }
 
@@ -166,11 +177,10 @@ java::Answer const* called(jobject object, jmethodID id, va_list arguments)
    bool const hasBody = method.signature[1] == '[';
    if (hasBody) {
       Object const& array = at(va_arg(arguments, jbyteArray));
-      bare::state().bodySize = static_cast<std::size_t>(array.length);
+      kept.bodySize = static_cast<std::size_t>(array.length);
    }
-   bare::State const& state = bare::state();
-   if (state.keepsCalls && &at(object) == &thing) {
-      calls.push_back({method.name, hasBody, hasBody ? state.lastBody() : ""});
+   if (kept.keepsCalls && &at(object) == &thing) {
+      calls.push_back({method.name, hasBody, hasBody ? kept.lastBody() : ""});
    }
    if (answers.empty() || answers.count(method.name) == 0) {
       return nullptr;
@@ -206,27 +216,27 @@ jobject calledForObject(JNIEnv*, jobject object, jmethodID id, va_list arguments
 {
    Method const& method = *reinterpret_cast<Method*>(id);
    if (&at(object) == &raised) {
-      std::wstring text(raised.text.begin(), raised.text.end());
-      if (method.name == "toString") {
-         text = dotted(raised.name) + (raised.hasText ? L": " + text : L"");
-      } else if (!raised.hasText) {
+      if (method.name == "getMessage" && !raised.hasText) {
          return nullptr;
       }
-      setText(result, text);
+      setText(result, method.name == "getMessage" ? message() : toString());
       return local<jobject>(&result);
    }
    java::Answer const* const answer = called(object, id, arguments);
    if (answer == nullptr) {
       bool const isText = method.signature.find(")Ljava/lang/String;") != std::string::npos;
-      result.text.clear();
+      setText(result, L"");
       return isText && !isPending ? local<jobject>(&result) : nullptr;
    }
    setText(result, answer->text);
-   if (answer->type == 'B') {
+   switch (answer->type) {
+   case 'B':
       setElements<char>(result, {answer->bytes.begin(), answer->bytes.end()});
-   } else if (answer->type == 'i') {
+      break;
+   case 'i':
       setElements<jint>(result, answer->numbers);
-   } else if (answer->type == 'j') {
+      break;
+   case 'j':
       setElements<jlong>(result, answer->numbers);
    }
    return local<jobject>(&result);
@@ -237,11 +247,10 @@ jobject calledForObject(JNIEnv*, jobject object, jmethodID id, va_list arguments
 jbyteArray newByteArray(JNIEnv*, jsize length)
 {
    tell("NewByteArray", length);
-   bare::State& state = bare::state();
-   if (state.body.size() < static_cast<std::size_t>(length)) {
-      state.body.resize(static_cast<std::size_t>(length));
+   if (kept.body.size() < static_cast<std::size_t>(length)) {
+      kept.body.resize(static_cast<std::size_t>(length));
    }
-   bodyArray.data = &state.body[0];
+   bodyArray.data = &kept.body[0];
    bodyArray.length = length;
    std::memset(bodyArray.data, 0, static_cast<std::size_t>(length));
    return local<jbyteArray>(&bodyArray);
@@ -249,13 +258,13 @@ jbyteArray newByteArray(JNIEnv*, jsize length)
 
 void* pin(JNIEnv*, jarray array, jboolean*)
 {
-   ++bare::state().pinned;
+   ++kept.pinned;
    return at(array).data;
 }
 
 void unpin(JNIEnv*, jarray array, void*, jint)
 {
-   --bare::state().pinned;
+   --kept.pinned;
    if (tells) {
       char const* const data = at(array).data;
       std::printf("array %d %d %d %d\n", data[0], data[1], data[2], data[3]);
@@ -273,7 +282,7 @@ jint registerNatives(JNIEnv*, jclass, JNINativeMethod const* table, jint count)
 {
    tell("RegisterNatives", count);
    for (jint i = 0; i != count; ++i) {
-      bare::state().natives[std::string(table[i].name) + table[i].signature] = table[i].fnPtr;
+      kept.natives[std::string(table[i].name) + table[i].signature] = table[i].fnPtr;
    }
    return setting("VM_REGISTER");
 }
@@ -288,13 +297,11 @@ JNINativeInterface_ functionsOfEnv()
       return std::getenv("VM_NULL") != nullptr ? nullptr : local<jobject>(&thing);
    };
    f.NewGlobalRef = [](JNIEnv*, jobject object) {
-      ++bare::state().globalReferences;
+      ++kept.globalReferences;
       return object;
    };
-   f.DeleteGlobalRef = [](JNIEnv*, jobject) { --bare::state().globalReferences; };
-   f.DeleteLocalRef = [](JNIEnv*, jobject object) {
-      bare::state().localReferences -= object != nullptr;
-   };
+   f.DeleteGlobalRef = [](JNIEnv*, jobject) { --kept.globalReferences; };
+   f.DeleteLocalRef = [](JNIEnv*, jobject object) { kept.localReferences -= object != nullptr; };
    f.ExceptionOccurred = exceptionOccurred;
    f.ExceptionCheck = [](JNIEnv*) -> jboolean { return isPending; };
    f.ExceptionClear = [](JNIEnv*) { isPending = false; };
@@ -303,7 +310,11 @@ JNINativeInterface_ functionsOfEnv()
    f.ThrowNew = throwNew;
 
    f.CallVoidMethodV = [](JNIEnv*, jobject object, jmethodID method, va_list arguments) {
-      called(object, method, arguments);
+      if (&at(object) == &raised) { // printStackTrace
+         std::fprintf(stderr, "%ls\n", toString().c_str());
+      } else {
+         called(object, method, arguments);
+      }
    };
    f.CallObjectMethodV = calledForObject;
    f.CallIntMethodV = calledForNumber<jint>;
@@ -321,10 +332,10 @@ JNINativeInterface_ functionsOfEnv()
       return static_cast<jsize>(at(text).text.size());
    };
    f.GetStringCritical = [](JNIEnv*, jstring text, jboolean*) -> jchar const* {
-      ++bare::state().pinned;
+      ++kept.pinned;
       return at(text).text.data();
    };
-   f.ReleaseStringCritical = [](JNIEnv*, jstring, jchar const*) { --bare::state().pinned; };
+   f.ReleaseStringCritical = [](JNIEnv*, jstring, jchar const*) { --kept.pinned; };
    return f;
 }
 
@@ -335,7 +346,8 @@ jint attach(JavaVM*, void** found, void* arguments)
 {
    tell(arguments == nullptr ? "AttachCurrentThread" : "AttachCurrentThread with arguments", 0);
    *found = &env;
-   return setting("VM_ATTACH");
+   return tells ? setting("VM_ATTACH")
+                : JNI_OK; // a look at the environment costs more than the rest
 }
 
 jint detach(JavaVM*)
@@ -360,8 +372,7 @@ namespace bare {
 
 State& state()
 {
-   static State one;
-   return one;
+   return kept;
 }
 
 jbyteArray arrayOver(char* bytes, std::size_t size)
@@ -385,7 +396,7 @@ void reset(bool)
    answers.clear();
    calls.clear();
    isPending = false;
-   bare::state().compared.clear();
+   kept.compared.clear();
 }
 
 void answer(std::string const& method, Answer const& answer)
@@ -400,17 +411,22 @@ std::vector<Call> takeCalls()
    return taken;
 }
 
-std::wstring fire(std::string const& native, std::string const& frame, bool)
+std::wstring fire(std::string const& native, std::string const& frame, bool) noexcept
 {
    typedef void (*Native)(JNIEnv*, jobject, jbyteArray);
    std::string bytes = frame;
-   reinterpret_cast<Native>(bare::state().natives.at(native + "([B)V"))(
+   reinterpret_cast<Native>(kept.natives.at(native + "([B)V"))(
          &env, nullptr, bare::arrayOver(&bytes[0], bytes.size()));
    if (!isPending) {
       return L"";
    }
    isPending = false;
-   return dotted(raised.name) + L"\n" + std::wstring(raised.text.begin(), raised.text.end());
+   return dotted(raised.name) + L"\n" + message();
+}
+
+int heldReferences()
+{
+   return kept.pinned + kept.localReferences + kept.globalReferences;
 }
 
 LocalFrame::LocalFrame() {}

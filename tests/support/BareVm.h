@@ -8,7 +8,7 @@
 //    VM_TELLS             if set, start-up's calls are told on the standard output
 //    VM_CHECK, VM_COUNT   status and number of VMs of JNI_GetCreatedJavaVMs
 //    VM_CREATE            status of JNI_CreateJavaVM
-//    VM_ATTACH            status of AttachCurrentThread
+//    VM_ATTACH            status of AttachCurrentThread, where VM_TELLS is set
 //    VM_LACKS             part of the names of the classes and methods that it does not find
 //    VM_REGISTER          status of RegisterNatives
 //    VM_THROWS            if set, there is always an exception, of no class that has a name

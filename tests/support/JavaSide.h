@@ -38,9 +38,16 @@ RTI_EXPORT void answer(std::string const& method, Answer const& answer);
 // The calls since the last time or reset; of several of one method the last body.
 RTI_EXPORT std::vector<Call> takeCalls();
 
-// Calls a native. What it threw: nothing, or class, line feed and message.
+// Calls a native. What it threw: nothing, or class, line feed and message. No C++ exception passes
+// the other side's frames.
 RTI_EXPORT std::wstring fire(
-      std::string const& native, std::string const& frame, bool onNewThread = false);
+      std::string const& native, std::string const& frame, bool onNewThread = false) noexcept;
+
+// References and pinned arrays that the library has not let go; 0 where the VM does not tell.
+RTI_EXPORT int heldReferences();
+
+// What a VM that checks JNI calls has to warn of.
+void callUnchecked();
 
 // Lets local references go with the object that came up meanwhile.
 class RTI_EXPORT LocalFrame {

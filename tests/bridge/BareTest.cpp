@@ -1,0 +1,102 @@
+// What only a VM that is none shows: which names the library asks for, in which order ladders are
+// climbed, and how often native memory is taken.
+#include "tests/bridge/Costs.h"
+#include "tests/bridge/Rows.h"
+#include "tests/support/BareVm.h"
+#include "tests/support/Memory.h"
+#include <RTI/time/HLAfloat64Interval.h>
+#include <RTI/time/HLAfloat64Time.h>
+
+#include <csignal>
+#include <gtest/gtest.h>
+
+using namespace rti1516e;
+using namespace net;
+
+TEST(Bare, namesAndSignaturesAreThoseOfTheList)
+{
+   ambassador();
+   std::map<std::string, std::string> methods{{"<init>", "([B)V"}};
+   for (ServiceRow const& row : serviceRows()) {
+      methods[row.name] = row.signature;
+   }
+   EXPECT_EQ(methods, bare::state().methods);
+   std::set<std::string> kept, registered;
+   for (std::string const& native : natives()) {
+      kept.insert(native + "([B)V");
+   }
+   for (auto const& native : bare::state().natives) {
+      registered.insert(native.first);
+   }
+   EXPECT_EQ(kept, registered);
+}
+
+// Java's classes may be each other's: the first that fits counts.
+TEST(Bare, laddersAreClimbedInTheirOrder)
+{
+   ambassador();
+   for (ServiceRow const& row : serviceRows()) {
+      java::reset();
+      java::answer(row.name, {'X', L"why", "java/lang/IllegalStateException", {}});
+      Fields fields(0);
+      HLAfloat64Time time;
+      HLAfloat64Interval interval;
+      testing::internal::CaptureStderr();
+      EXPECT_THROW(row.call(ambassador(), fields, time, interval), RTIinternalError) << row.name;
+      testing::internal::GetCapturedStderr();
+      std::vector<std::string> rungs;
+      for (std::string const& rung : row.ladder) {
+         rungs.push_back("hla/rti1516e/exceptions/" + rung);
+      }
+      EXPECT_EQ(rungs, bare::state().compared) << row.name;
+   }
+}
+
+// A time or an interval makes a block, its record and its bytes; a retraction handle a block and
+// its bytes.
+TEST(Bare, servicesTakeMemoryForTimesAndRetractionsAlone)
+{
+   std::map<std::string, long> const taken{{"LT", 1}, {"LTI", 1}, {"MRH", 7}};
+   Federate federate;
+   bare::state().keepsCalls = false;
+   for (ServiceRow const& row : serviceRows()) {
+      long expected = 0;
+      for (std::string const& code : codesOf(row.name)) {
+         expected += taken.count(code) != 0 ? taken.at(code) : 0;
+      }
+      for (int set = 0; set < net::sets && row.result == "-"; ++set) {
+         Fields fields(set);
+         HLAfloat64Time time;
+         HLAfloat64Interval interval;
+         row.call(*federate.rti, fields, time, interval); // once before, for what stays
+         long const before = memory::allocations;
+         row.call(*federate.rti, fields, time, interval);
+         EXPECT_GE(expected, memory::allocations - before) << row.name << ", set " << set;
+      }
+   }
+   bare::state().keepsCalls = true;
+}
+
+TEST(Bare, callsThatAreWatchedTakeNoMoreMemoryThanKept)
+{
+   for (Cost const& cost : costs()) {
+      cost.call();
+      long const before = memory::allocations;
+      cost.call();
+      EXPECT_GE(cost.allocations, memory::allocations - before) << cost.name;
+   }
+   bare::state().keepsCalls = true;
+}
+
+TEST(DeathTest, javaMethodMissing)
+{
+   GTEST_FLAG_SET(death_test_style, "threadsafe");
+   EXPECT_EXIT(
+         {
+            setenv("VM_LACKS", "retract_MRH", 1);
+            ambassador();
+         },
+         testing::KilledBySignal(SIGABRT),
+         testing::ContainsRegex(
+               "^Cannot locate retract_MRH\\.\n[^\n]*Assertion.* .id != 0. failed"));
+}

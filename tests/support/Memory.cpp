@@ -1,0 +1,42 @@
+#include "tests/support/Memory.h"
+
+#include <cstdlib>
+#include <new>
+
+std::size_t memory::limit = memory::noLimit;
+long memory::allocations;
+
+void* operator new(std::size_t size)
+{
+   ++memory::allocations;
+   void* const place = size > memory::limit ? nullptr : std::malloc(size != 0 ? size : 1);
+   if (place == nullptr) {
+      throw std::bad_alloc();
+   }
+   return place;
+}
+
+void* operator new[](std::size_t size)
+{
+   return operator new(size);
+}
+
+void operator delete(void* place) noexcept
+{
+   std::free(place);
+}
+
+void operator delete[](void* place) noexcept
+{
+   std::free(place);
+}
+
+void operator delete(void* place, std::size_t) noexcept
+{
+   std::free(place);
+}
+
+void operator delete[](void* place, std::size_t) noexcept
+{
+   std::free(place);
+}
