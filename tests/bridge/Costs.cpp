@@ -41,10 +41,8 @@ private:
       }
       std::string const name = "update-" + std::to_string(count) + "x" + std::to_string(size);
       rows.push_back({name, [=] { _rti->updateAttributeValues(_object, values, _noTag); }, 0});
-      // The time's bytes, and the record of the data that takes them over; the retraction handle's
-      // record and that of its payload.
       rows.push_back({"timed-" + name,
-            [=] { _rti->updateAttributeValues(_object, values, _noTag, _time); }, 5});
+            [=] { _rti->updateAttributeValues(_object, values, _noTag, _time); }, 0});
    }
 
    void addServices()
@@ -59,19 +57,35 @@ private:
       rows.push_back({"evokeCallback", [=] { _rti->evokeCallback(0.5); }, 0});
    }
 
-   void addCallback(
-         std::string const& name, std::string const& native, Wire const& fields, long allocations)
+   // Brings the fields and the others in turn.
+   void addCallback(std::string const& name, std::string const& native, Wire const& fields,
+         Wire const& others, long allocations)
    {
       Native const function =
             reinterpret_cast<Native>(bare::state().natives.at(native + "_Native([B)V"));
-      std::string const bytes = frame(_handle, fields.bytes);
+      std::string const first = frame(_handle, fields.bytes);
+      std::string const second = frame(_handle, others.bytes);
       rows.push_back({name,
             [=] {
+               static bool isFirst;
+               isFirst = !isFirst;
+               std::string const& bytes = isFirst ? first : second;
                jbyteArray const array =
                      bare::arrayOver(const_cast<char*>(bytes.data()), bytes.size());
                function(bare::environment(), nullptr, array);
             },
             allocations});
+   }
+
+   // Attributes from `first` on.
+   static Wire reflection(int first, int count)
+   {
+      std::vector<Wire> values;
+      for (int attribute = first; attribute < first + count; ++attribute) {
+         values.push_back(integer(attribute) + block("8 bytes."));
+      }
+      return integer(1) + counted(values) + block("tag!") + integer(0) + integer(1) + integer(1)
+            + integer(0) + integer(2);
    }
 
    void addCallbacks()
