@@ -151,6 +151,8 @@ namespace {
 // A federate's own time, which no time can be assigned to.
 class Stubborn : public HLAinteger64Time {
 public:
+   using HLAinteger64Time::operator=; // of which g++ 14 finds the virtual ones hidden otherwise
+
    LogicalTime& operator=(LogicalTime const&) RTI_THROW((InvalidLogicalTime)) override
    {
       throw InvalidLogicalTime(L"stubborn");

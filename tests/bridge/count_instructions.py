@@ -41,7 +41,7 @@ def main():
     for case in CASES:
         few, many = (instructions(valgrind, program, case, calls) for calls in (FEW, MANY))
         counts[case] = (many - few) // (MANY - FEW)
-        has_grown = bool(kept) and counts[case] > kept[case] * GROWTH
+        has_grown = bool(kept) and counts[case] > kept.get(case, 0) * GROWTH
         grown += has_grown
         print(f"{case:24} {counts[case]:8} instructions, kept {kept.get(case)}"
               + (" GROWN" if has_grown else ""))
