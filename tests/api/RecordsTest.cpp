@@ -22,28 +22,22 @@ void expectInfo(Info const& info, bool hasFederate, bool hasRegions)
 }
 
 template <class Info>
-class MessageInfoTest : public testing::Test {
-};
-
-typedef testing::Types<SupplementalReflectInfo, SupplementalReceiveInfo> MessageInfos;
-TYPED_TEST_SUITE(MessageInfoTest, MessageInfos, );
-
-TYPED_TEST(MessageInfoTest, flagsTellWhatWasGiven)
+void expectEachInfo()
 {
-   expectInfo(TypeParam(), false, false);
-   expectInfo(TypeParam(FEDERATE), true, false);
-   expectInfo(TypeParam(REGIONS), false, true);
-   expectInfo(TypeParam(FEDERATE, REGIONS), true, true);
-   EXPECT_TRUE(TypeParam(RegionHandleSet()).hasSentRegions);
+   expectInfo(Info(), false, false);
+   expectInfo(Info(FEDERATE), true, false);
+   expectInfo(Info(REGIONS), false, true);
+   Info const both(FEDERATE, REGIONS);
+   Info copy(both);
+   copy.sentRegions.clear();
+   expectInfo(both, true, true);
+   EXPECT_TRUE(Info(RegionHandleSet()).hasSentRegions);
 }
 
-TYPED_TEST(MessageInfoTest, copyHasItsOwnSet)
+TEST(RecordsTest, flagsTellWhatWasGiven)
 {
-   TypeParam const source(FEDERATE, REGIONS);
-   TypeParam copy(source);
-   expectInfo(copy, true, true);
-   copy.sentRegions.clear();
-   expectInfo(source, true, true);
+   expectEachInfo<SupplementalReflectInfo>();
+   expectEachInfo<SupplementalReceiveInfo>();
 }
 
 TEST(RecordsTest, hasWhatTheConstructorGot)

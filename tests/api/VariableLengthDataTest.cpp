@@ -2,109 +2,126 @@
 #include "tests/api/Bytes.h"
 
 #include <gtest/gtest.h>
+#include <memory>
+#include <random>
+#include <vector>
 
 using namespace rti1516e;
 
 namespace {
-
-std::string freedBytes;
-
-// Notes the first byte of what it frees.
-void freeNoting(void* bytes)
-{
-   freedBytes += *static_cast<char*>(bytes);
-   delete[] static_cast<char*>(bytes);
-}
-
-char* newBytes(char first)
-{
-   return new char[3]{first, 'y', 'z'};
-}
 
 TEST(VariableLengthDataTest, emptyBlocksDifferInTheirPointer)
 {
    VariableLengthData const fresh;
    EXPECT_EQ(nullptr, fresh.data());
    EXPECT_EQ(0u, fresh.size());
-   VariableLengthData const ofNothing(nullptr, 0);
-   EXPECT_NE(nullptr, ofNothing.data());
-   EXPECT_EQ(0u, ofNothing.size());
-   VariableLengthData const copyOfFresh(fresh);
-   EXPECT_NE(nullptr, copyOfFresh.data());
+   EXPECT_NE(nullptr, VariableLengthData(nullptr, 0).data());
+   EXPECT_NE(nullptr, VariableLengthData(fresh).data());
+   VariableLengthData taken;
+   taken.takeDataPointer(new char[1]{'e'}, 1); // without a function: an array of char
+   EXPECT_EQ("65", hex(taken));
 }
 
-TEST(VariableLengthDataTest, ownsCopies)
+std::vector<void*> freed;
+
+void freeNoting(void* bytes)
 {
-   char bytes[] = {1, 2, 3};
-   VariableLengthData const constructed(bytes, 3);
-   VariableLengthData set;
-   set.setData(bytes, 2);
-   VariableLengthData pointing;
-   pointing.setDataPointer(bytes, 3);
-   VariableLengthData const copied(pointing);
-   VariableLengthData assigned;
-   EXPECT_EQ(&assigned, &(assigned = pointing));
-   bytes[0] = 9;
-   EXPECT_EQ("01 02 03", hex(constructed));
-   EXPECT_EQ("01 02", hex(set));
-   EXPECT_EQ("01 02 03", hex(copied));
-   EXPECT_EQ("01 02 03", hex(assigned));
-   EXPECT_EQ("09 02 03", hex(pointing));
-   EXPECT_EQ(bytes, pointing.data());
+   freed.push_back(bytes);
+   delete[] static_cast<char*>(bytes);
 }
 
-TEST(VariableLengthDataTest, freesWhatItTookOnce)
-{
-   freedBytes.clear();
+// A block and what it must hold, with the memory that is not its own, or that it is to free.
+struct Modelled {
+   VariableLengthData data;
+   std::string bytes;
+   char* external = nullptr; // the caller's
+   char* taken = nullptr;
+
+   void expectHolds() const
    {
-      VariableLengthData data;
-      char* const taken = newBytes('a');
-      data.takeDataPointer(taken, 3, freeNoting);
-      EXPECT_EQ(taken, data.data());
-      EXPECT_EQ(3u, data.size());
-      VariableLengthData const copy(data);
-      EXPECT_NE(data.data(), copy.data());
-      EXPECT_EQ(hex(data), hex(copy));
+      EXPECT_EQ(hex(bytes.data(), bytes.size()), hex(data));
+      if (external != nullptr || taken != nullptr) {
+         EXPECT_EQ(external != nullptr ? external : taken, data.data());
+      }
    }
-   EXPECT_EQ("a", freedBytes);
-}
 
-TEST(VariableLengthDataTest, everyReplacementFreesWhatWasThere)
-{
-   char bytes[] = {1};
-   VariableLengthData const other(bytes, 1);
-   freedBytes.clear();
-   VariableLengthData data;
-   data.takeDataPointer(newBytes('a'), 3, freeNoting);
-   data.takeDataPointer(newBytes('b'), 3, freeNoting);
-   EXPECT_EQ("a", freedBytes);
-   data.setData(bytes, 1);
-   EXPECT_EQ("ab", freedBytes);
-   data.takeDataPointer(newBytes('c'), 3, freeNoting);
-   data.setDataPointer(bytes, 1);
-   EXPECT_EQ("abc", freedBytes);
-   data.takeDataPointer(newBytes('d'), 3, freeNoting);
-   data = other;
-   EXPECT_EQ("abcd", freedBytes);
-   data.takeDataPointer(newBytes('e'), 3); // without a function: an array of char
-   EXPECT_EQ("65 79 7A", hex(data));
-}
+   // What is taken is freed once, by the next replacement or at the end.
+   void expectReplaced(std::string const& now)
+   {
+      std::vector<void*> const expected(taken != nullptr ? 1 : 0, taken);
+      EXPECT_EQ(expected, freed);
+      freed.clear();
+      bytes = now;
+      external = nullptr;
+      taken = nullptr;
+   }
+};
 
-// Whether the old record serves again or not, what is held is what was set last.
-TEST(VariableLengthDataTest, holdsWhatWasSetLast)
+TEST(VariableLengthDataTest, ownsAndFreesThroughAllOperations)
 {
-   std::string bytes(1000, '\0');
-   VariableLengthData data;
-   VariableLengthData copy(data);
-   EXPECT_NE(nullptr, copy.data()) << "a copy of nothing";
-   for (std::size_t const size : {0, 8, 3, 1000, 600, 400, 90, 0, 1, 65, 66}) {
-      std::string const before = hex(data);
-      copy = data;
-      bytes[0] = static_cast<char>(size);
-      data.setData(bytes.data(), size);
-      EXPECT_EQ(hex(bytes.data(), size), hex(data));
-      EXPECT_NE(nullptr, data.data());
-      EXPECT_EQ(before, hex(copy));
+   std::mt19937 random(1);
+   char memory[300];
+   std::unique_ptr<Modelled> blocks[3];
+   for (int step = 0; step < 20000 && !HasFailure(); ++step) {
+      std::unique_ptr<Modelled>& slot = blocks[random() % 3];
+      Modelled const* const other = blocks[random() % 3].get();
+      if (slot == nullptr) {
+         slot.reset(new Modelled);
+      }
+      std::string bytes(random() % 3 == 0 ? random() % 300 : random() % 9, 'b');
+      bytes += static_cast<char>(random());
+      switch (random() % 7) {
+      case 0:
+         slot->data.setData(bytes.data(), bytes.size());
+         slot->expectReplaced(bytes);
+         break;
+      case 1: {
+         std::size_t const size = random() % sizeof memory;
+         slot->data.setDataPointer(memory, size);
+         slot->expectReplaced(std::string(memory, size));
+         slot->external = memory;
+         break;
+      }
+      case 2: {
+         char* const made = new char[bytes.size()];
+         bytes.copy(made, bytes.size());
+         slot->data.takeDataPointer(made, bytes.size(), freeNoting);
+         slot->expectReplaced(bytes);
+         slot->taken = made;
+         break;
+      }
+      case 3:
+         if (other != nullptr && other != slot.get()) {
+            EXPECT_EQ(&slot->data, &(slot->data = other->data));
+            slot->expectReplaced(other->bytes);
+            EXPECT_TRUE(slot->bytes.empty() || other->data.data() != slot->data.data());
+         }
+         break;
+      case 4: {
+         Modelled const copy = {VariableLengthData(slot->data), slot->bytes, nullptr, nullptr};
+         copy.expectHolds();
+         EXPECT_NE(nullptr, copy.data.data());
+         break;
+      }
+      case 5:
+         memory[random() % 2] = static_cast<char>(random()); // shows where it is held by pointer
+         for (auto const& block : blocks) {
+            if (block != nullptr && block->external != nullptr) {
+               block->bytes.assign(memory, block->bytes.size());
+            }
+         }
+         break;
+      default: {
+         Modelled last = {VariableLengthData(), "", nullptr, slot->taken};
+         slot.reset();
+         last.expectReplaced("");
+      }
+      }
+      for (auto const& block : blocks) {
+         if (block != nullptr) {
+            block->expectHolds();
+         }
+      }
    }
 }
 

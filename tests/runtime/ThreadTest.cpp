@@ -91,8 +91,17 @@ TEST(ThreadTest, numbers)
    std::set<thread::id> const all = {none, me, idOne, idTwo};
    EXPECT_EQ(4U, all.size());
    EXPECT_TRUE(*all.begin() == none) << "the lowest";
-   EXPECT_TRUE(none < me && none <= me && me > none && me >= none && me != none);
-   EXPECT_FALSE(me < me || me > me || me != me || none == me || me <= none || none >= me);
+   thread::id const ascending[] = {none, me};
+   for (thread::id const& left : ascending) {
+      for (thread::id const& right : ascending) {
+         EXPECT_EQ(&left < &right, left < right);
+         EXPECT_EQ(&left <= &right, left <= right);
+         EXPECT_EQ(&left > &right, left > right);
+         EXPECT_EQ(&left >= &right, left >= right);
+         EXPECT_EQ(&left == &right, left == right);
+         EXPECT_EQ(&left != &right, left != right);
+      }
+   }
 
    std::ostringstream narrow;
    std::wostringstream wide;
@@ -155,38 +164,21 @@ TEST(ThreadTest, hardwareConcurrency)
    EXPECT_EQ(sysconf(_SC_NPROCESSORS_ONLN), static_cast<long>(thread::hardware_concurrency()));
 }
 
-struct Counter {
-   mutex lock;
-   int count;
-};
-
-void countUp(void* argument)
-{
-   Counter& counter = *static_cast<Counter*>(argument);
-   for (int i = 0; i < 10000; ++i) {
-      lock_guard<mutex> guard(counter.lock);
-      ++counter.count;
-   }
-}
-
 TEST(MutexTest, oneThreadAtATime)
 {
-   Counter counter;
-   counter.count = 0;
-   pthread_t threads[4];
-   for (pthread_t& handle : threads) {
-      pthread_create(
-            &handle, nullptr,
-            [](void* argument) -> void* {
-               countUp(argument);
-               return nullptr;
-            },
-            &counter);
+   mutex lock;
+   int count = 0;
+   auto const countUp = [&] {
+      for (int i = 0; i < 10000; ++i) {
+         lock_guard<mutex> guard(lock);
+         ++count;
+      }
+   };
+   std::thread threads[] = {std::thread(countUp), std::thread(countUp), std::thread(countUp)};
+   for (std::thread& running : threads) {
+      running.join();
    }
-   for (pthread_t const handle : threads) {
-      pthread_join(handle, nullptr);
-   }
-   EXPECT_EQ(40000, counter.count);
+   EXPECT_EQ(30000, count);
 }
 
 } // namespace
