@@ -1,5 +1,5 @@
 // One federate for every language version from C++98 on, built with hidden visibility: what
-// federates write in the older and in the newer ways. It joins, sends itself an interaction, and
+// federates write in the older and in the newer ways. It joins, sends an interaction, and
 // catches what the library throws, in the program and in a plugin (PLUGIN is defined for that).
 // Ends with one line that tells the number of faults.
 #include "AllHeaders.h"
@@ -197,7 +197,7 @@ void exchange(RTIambassador& rti, Callbacks& callbacks)
    expect(VariableLengthData(NULL, 0).size() == 0, "no data");
    rti.evokeMultipleCallbacks(0.0, 1.0);
 #endif
-   expect(callbacks.received == 42, "interaction");
+   expect(callbacks.received == 0, "a federate hears nothing of its own");
 }
 
 void takePart(RTIambassador& rti, Callbacks& callbacks, wchar_t const* model)
@@ -208,7 +208,8 @@ void takePart(RTIambassador& rti, Callbacks& callbacks, wchar_t const* model)
    rti.connect(callbacks, HLA_EVOKED);
    expectThrown<FederateNotExecutionMember>("through a plugin", pluginCalls, rti);
 #if __cplusplus >= 201103L
-   rti.createFederationExecution(L"Language", {model}, HLAinteger64TimeName);
+   std::vector<std::wstring> const models{model};
+   rti.createFederationExecution(L"Language", models, HLAinteger64TimeName);
 #else
    std::vector<std::wstring> const models(1, model);
    rti.createFederationExecution(L"Language", models, L"HLAinteger64Time");

@@ -41,7 +41,7 @@ def main():
     headers = sorted(path.relative_to(to.source / "api").as_posix() for room in ("RTI", "tarn1516e")
                      for path in (to.source / "api" / room).rglob("*.h"))
     compilers = [name for name in ("g++", "clang++") if shutil.which(name)]
-    with sdk.Scratch() as scratch, ThreadPoolExecutor(2) as pool:
+    with sdk.Scratch() as scratch, ThreadPoolExecutor(3) as pool:
         home = sdk.install_and_move(to, scratch)
         (scratch / "AllHeaders.h").write_text("".join(f"#include <{name}>\n" for name in headers))
         alone = [(header, version) for version in VERSIONS for header in headers]
