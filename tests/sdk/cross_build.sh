@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Compiles and links the libraries, the check and the examples for arm64, with the cross compiler of
-# Debian's g++-aarch64-linux-gnu, and looks at what came out. Arguments: a folder
-# to build in, and the settings of the SDK's tests.
+# Compiles and links the libraries, the tools and the examples for arm64, with the cross compiler of
+# Debian's g++-aarch64-linux-gnu, and looks at what came out. Arguments: a folder to build in, and the
+# settings of the SDK's tests.
 set -euo pipefail
 build=$1
 source=$(cd "$(dirname "$0")/../.." && pwd)

@@ -1,7 +1,7 @@
 """Compares the binary interface of both libraries with binary-interface.txt: sizes of classes, the
-order of their virtual functions, the exported names; and sees that
-the library stays in the process and does little when it is loaded. --write writes that file. Sizes are those of
-namespace rti1516e; the other one's threads and mutexes are as large as the platform's.
+order of their virtual functions, the exported names. Sees that the library stays in the process and
+does little when it is loaded. --write writes the list. Sizes are those of namespace rti1516e; the
+other one's threads and mutexes are as large as the platform's.
 
 Arguments: the settings, and for a cross build the folder of its libraries, compiler, nm and readelf.
 Classes that are alike but for their names share an entry, by which a change is seen; a digest of all
