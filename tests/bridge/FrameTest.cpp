@@ -184,7 +184,7 @@ protected:
    static bool mayFire(Ending ending)
    {
 #ifdef NET_SANITIZED
-      if (ending == Ending::NULL_POINTER || ending == Ending::PAST_THE_END) {
+      if (ending == Ending::NULL_POINTER) {
          return false;
       }
 #endif
