@@ -56,14 +56,6 @@ class Place:
         self.home = self.home.rename(self.home.parent / name)
         self.jar = self.home / "lib/tarn1516e.jar"
 
-    def another_library(self):
-        for library in (self.home / "lib" / self.to.toolchain).iterdir():
-            shutil.copy(library, self.work)
-
-    def class_in_the_way(self):
-        with zipfile.ZipFile(self.jar) as jar:
-            jar.extract(CORE, self.work)
-
     def jre_to_nowhere(self):
         self.without("jre")
         (self.home / "jre").symlink_to("/no/runtime")
@@ -142,7 +134,8 @@ CASES = (
     case("a class path to nowhere, with a name in no encoding", None,
          {"CLASSPATH": '/no/*:/no/\udcff"\\.jar'},
          warnings=(("class path", 'CLASSPATH leads nowhere: /no/*, /no/\ufffd"\\.jar'),)),
-    case("a class that hides the jar's", Place.class_in_the_way, also=("jar             {work}\n",),
+    case("a class that hides the jar's", lambda p: zipfile.ZipFile(p.jar).extract(CORE, p.work),
+         also=("jar             {work}\n",),
          warnings=(("jar", "{work} has skerry.tarn1516e.RtiFactoryImpl, and hides the one of {jar}"),)),
     case("options that go astray", lambda p: p.option_file(" -Da=b\n-Dx=y\r\n"),
          {"TARN1516_OPTION1": "-XX:+UseG1GCC", "TARN1516_OPTION20": "-Da=b",
@@ -154,7 +147,8 @@ CASES = (
                    ("options", "_JAVA_OPTIONS is set, and the VM follows it too: -Dd=e"),
                    ("VM", "the VM does not know the option '-XX:+UseG1GCC' in TARN1516_OPTION1"),
                    ("VM", "the VM does not know the option ' -Da=b' in tarn.vmoptions"))),
-    case("another library on the path", Place.another_library,
+    case("another library on the path",
+         lambda p: shutil.copytree(p.home / "lib" / p.to.toolchain, p.work, dirs_exist_ok=True),
          {"LD_LIBRARY_PATH": "{work}", "TARN1516E_HOME": "{home}"},
          warnings=(("library", "{work}/librti1516e.so.5 comes before {home}/lib/"),)),
     case("a link to no runtime, and a VM on the path", Place.jre_to_nowhere,
