@@ -3,115 +3,65 @@
 #ifndef encoding_BasicDataElement_h
 #define encoding_BasicDataElement_h
 
-#include "encoding/Encoder.h"
+#include "encoding/BasicValue.h"
 #include "encoding/hasher.h"
 #include "encoding/ScalarCodec.h"
 
 #include <memory>
+#include <new>
 #include <RTI/encoding/BasicDataElements.h>
 #include <typeinfo>
 #include <utility>
 
 namespace rti1516e {
 
-// What an element is made of and what its members do. Where a boundary is given, it is the one that
-// the element tells, which may be that of a federate's subclass.
-template <class ElementCoding>
-class BasicValue {
-public:
-   typedef ElementCoding Coding;
-   typedef typename Coding::Value Value;
-
-   BasicValue() : _external(nullptr), _value() {}
-   explicit BasicValue(Value const& value) : _external(nullptr), _value(value) {}
-   explicit BasicValue(Value* external) : _external(external), _value() {}
-
-   Value const& get() const
-   {
-      return _external != nullptr ? *_external : _value;
-   }
-
-   // Ends the binding.
-   void set(Value value)
-   {
-      _external = nullptr;
-      _value = std::move(value);
-   }
-
-   void bind(Value* external)
-   {
-      _external = external;
-   }
-
-   // Ends the binding first: assigned to itself it holds the default value.
-   void assign(BasicValue const& rhs)
-   {
-      *this = BasicValue();
-      set(rhs.get());
-   }
-
-   std::size_t length() const
-   {
-      return static_cast<std::size_t>(Coding::size(get()));
-   }
-
-   VariableLengthData encode() const
-   {
-      typename Coding::Bytes bytes(get());
-      return VariableLengthData(bytes.data(), bytes.size());
-   }
-
-   void encode(VariableLengthData& data) const
-   {
-      typename Coding::Bytes bytes(get());
-      data.setData(bytes.data(), bytes.size());
-   }
-
-   void encodeInto(std::vector<Octet>& buffer, unsigned int boundary) const
-   {
-      Coding::append(buffer, boundary, get());
-   }
-
-   void decode(VariableLengthData const& data, unsigned int boundary)
-   {
-      Coding::decode(data.data(), bytesLeft(data.size(), 0, boundary), decoded());
-   }
-
-   void decodeFrom(std::vector<Octet> const& buffer, std::size_t index, unsigned int boundary)
-   {
-      unsigned long const length = bytesLeft(buffer.size(), index, boundary);
-      Coding::decode(&buffer[index], length, decoded());
-   }
-
-   // Where a decoded value goes: the binding stays.
-   Value& decoded()
-   {
-      return _external != nullptr ? *_external : _value;
-   }
-
-private:
-   Value* _external; // the caller's
-   Value _value;
-};
+// The functions of a scalar's codec. Its implementation lies in a cell.
 
 template <class Implementation>
-void storeScalar(DataElement const& scalar, char* out)
+ScalarCell* recordOf(DataElement const& scalar)
 {
-   Implementation::Coding::encode(Implementation::of(scalar).get(), out);
+   return reinterpret_cast<ScalarCell*>(&Implementation::of(scalar));
 }
 
 template <class Implementation>
-void loadScalar(DataElement& scalar, char const* in)
+void storeScalars(ScalarCell const* records, std::size_t count, char* out)
 {
-   typename Implementation::Value& value = Implementation::of(scalar).decoded();
-   Implementation::Coding::decode(in, sizeof(value), value);
+   typedef typename Implementation::Coding Coding;
+   Implementation const* const values = reinterpret_cast<Implementation const*>(records);
+   for (std::size_t i = 0; i < count; ++i) {
+      Coding::encode(values[i].get(), out + i * Coding::boundary);
+   }
 }
 
-template <class Element, class Implementation>
+template <class Implementation>
+void loadScalars(ScalarCell* records, std::size_t count, char const* in)
+{
+   typedef typename Implementation::Coding Coding;
+   Implementation* const values = reinterpret_cast<Implementation*>(records);
+   for (std::size_t i = 0; i < count; ++i) {
+      Coding::decode(in + i * Coding::boundary, Coding::boundary, values[i].decoded());
+   }
+}
+
+template <class Implementation>
+void cloneScalars(ScalarCell const* sources, std::size_t step, std::size_t count,
+      ScalarCell* records, ScalarCell* objects, DataElement** elements)
+{
+   Implementation const* source = reinterpret_cast<Implementation const*>(sources);
+   for (std::size_t i = 0; i < count; ++i, source += step) {
+      typename Implementation::Value const value = source->get(); // the source may be the place
+      Implementation* const implementation = new (records + i) Implementation(value);
+      elements[i] = Implementation::place(objects + i, *implementation);
+   }
+}
+
+template <class Element, class Implementation, ScalarKind kind>
 constexpr ScalarCodec codecOf()
 {
-   return {Implementation::Coding::boundary, &typeid(Element), storeScalar<Implementation>,
-         loadScalar<Implementation>};
+   static_assert(sizeof(Implementation) == sizeof(ScalarCell), "bytes of a scalar's record");
+   static_assert(sizeof(Element) == sizeof(ScalarCell), "bytes of a scalar");
+   return {kind, Implementation::Coding::boundary, &typeid(Element), recordOf<Implementation>,
+         storeScalars<Implementation>, loadScalars<Implementation>, cloneScalars<Implementation>};
 }
 
 } // namespace rti1516e
@@ -126,6 +76,7 @@ constexpr ScalarCodec codecOf()
       using BasicValue::BasicValue;                                                                \
       static X##Implementation& of(DataElement const& element)                                     \
       { return *static_cast<X const&>(element)._implementation; }                                  \
+      static X* place(void* room, X##Implementation& inside) { return new (room) X(inside); }      \
    };                                                                                              \
    X::X() : _implementation(new X##Implementation) {}                                              \
    X::X(V const& inData) : _implementation(new X##Implementation(inData)) {}                       \
@@ -166,7 +117,7 @@ constexpr ScalarCodec codecOf()
    RTI_DEFINE_BASIC_DATA_ELEMENT(X, V)                                                             \
    namespace rti1516e {                                                                            \
    extern ScalarCodec const X##Codec;                                                              \
-   constexpr ScalarCodec X##Codec = codecOf<X, X##Implementation>();                               \
+   constexpr ScalarCodec X##Codec = codecOf<X, X##Implementation, KIND_OF_##X>();                  \
    }
 // clang-format on
 

@@ -7,14 +7,7 @@ namespace rti1516e {
 
 ElementSlot cloneOf(DataElement const& element)
 {
-   std::auto_ptr<DataElement> clone = element.clone();
-   ScalarCodec const* const codec = clone.get() == nullptr ? nullptr : scalarCodecOf(*clone);
-   return {clone.release(), codec, true};
-}
-
-ElementSlot callersOwn(DataElement* element)
-{
-   return {element, element == nullptr ? nullptr : scalarCodecOf(*element), false};
+   return {element.clone().release(), true};
 }
 
 void release(ElementSlot const& slot)

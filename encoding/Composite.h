@@ -3,8 +3,6 @@
 #ifndef encoding_Composite_h
 #define encoding_Composite_h
 
-#include "encoding/ScalarCodec.h"
-
 #include <RTI/encoding/DataElement.h>
 #include <vector>
 
@@ -13,17 +11,10 @@ namespace rti1516e {
 // A place for an element: a clone made by the composite, which deletes it, or the caller's.
 struct ElementSlot {
    DataElement* element;
-   ScalarCodec const* codec; // null unless the element is a scalar
    bool owned;
 };
 
 ElementSlot cloneOf(DataElement const& element);
-ElementSlot callersOwn(DataElement* element);
-
-inline unsigned int boundaryOf(ElementSlot const& slot)
-{
-   return slot.codec != nullptr ? slot.codec->bytes : slot.element->getOctetBoundary();
-}
 
 // Deletes the element if it is owned.
 void release(ElementSlot const& slot);

@@ -1,148 +1,406 @@
 // Elements in a row.
 #include "encoding/ElementSequence.h"
 
+#include "encoding/BasicValue.h"
 #include "encoding/Encoder.h"
 
 #include <algorithm>
 
 namespace rti1516e {
 
-ElementSequence::ElementSequence() : _scalarBoundary(1), _others(0) {}
+namespace {
+
+// Lets a vector take so many more without a failure. It grows by doubling.
+template <class Vector>
+void makeRoom(Vector& vector, std::size_t more)
+{
+   std::size_t const needed = vector.size() + more;
+   if (needed > vector.capacity()) {
+      std::size_t const atLeast = more == 1 ? 8 : 0;
+      vector.reserve(std::max({needed, 2 * vector.capacity(), atLeast}));
+   }
+}
+
+// In front of a scalar, whose boundary is a power of two.
+std::size_t paddingBefore(std::size_t index, unsigned int boundary)
+{
+   return (0 - index) & (boundary - 1);
+}
+
+} // namespace
 
 ElementSequence::ElementSequence(ElementSequence const& rhs) : ElementSequence()
 {
-   _slots.reserve(rhs.size());
-   for (ElementSlot const& slot : rhs._slots) {
-      append(cloneOf(*slot.element));
+   _elements.reserve(rhs.size());
+   _runs.reserve(rhs._runs.size());
+   _stretches.reserve(rhs._stretches.size());
+   for (Run const& run : rhs._runs) {
+      if (run.records != nullptr) {
+         appendScalars(*run.codec, run.records, 1, run.count);
+      } else {
+         for (std::size_t i = 0; i < run.count; ++i) {
+            append(rhs[run.first + i], 1);
+         }
+      }
    }
 }
 
 ElementSequence::~ElementSequence()
 {
-   truncate(0);
-}
-
-void ElementSequence::append(ElementSlot slot)
-{
-   try {
-      _slots.push_back(slot);
-   } catch (...) {
-      release(slot);
-      throw;
-   }
-   count(slot);
-}
-
-void ElementSequence::count(ElementSlot const& slot)
-{
-   if (slot.codec != nullptr) {
-      _scalarBoundary = std::max(_scalarBoundary, slot.codec->bytes);
-   } else {
-      ++_others;
+   for (Run const& run : _runs) {
+      releaseFrom(run.first, run);
    }
 }
 
-void ElementSequence::countAll()
+void ElementSequence::append(DataElement const& prototype, std::size_t count)
 {
-   _scalarBoundary = 1;
-   _others = 0;
-   for (ElementSlot const& slot : _slots) {
-      count(slot);
+   if (ScalarCodec const* const codec = scalarCodecOf(prototype)) {
+      appendScalars(*codec, codec->recordOf(prototype), 0, count);
+      return;
+   }
+   makeRoomFor(count);
+   for (std::size_t i = 0; i < count; ++i) {
+      makeRoomFor(1);
+      appendElement(prototype.clone().release(), true);
    }
 }
 
-void ElementSequence::replace(std::size_t index, ElementSlot slot)
+void ElementSequence::appendPointer(DataElement* element)
 {
-   std::swap(_slots[index], slot);
-   if (slot.codec != _slots[index].codec) {
-      countAll();
+   makeRoomFor(1);
+   appendElement(element, false);
+}
+
+void ElementSequence::makeRoomFor(std::size_t elements)
+{
+   makeRoom(_elements, elements);
+   makeRoom(_runs, 1);
+   makeRoom(_stretches, 1);
+}
+
+ElementSequence::Run ElementSequence::runOf(DataElement const* element, bool owned)
+{
+   ScalarCodec const* const codec = element == nullptr ? nullptr : scalarCodecOf(*element);
+   return {codec, nullptr, 0, 1, 0, owned};
+}
+
+// There is room for it.
+void ElementSequence::appendElement(DataElement* element, bool owned)
+{
+   addToRuns(runOf(element, owned));
+   _elements.push_back(element);
+}
+
+void ElementSequence::appendScalars(
+      ScalarCodec const& codec, ScalarCell const* sources, std::size_t step, std::size_t count)
+{
+   while (count != 0) {
+      makeRoomFor(count);
+      ScalarMemory::Place const place = _memory.take(count);
+      std::size_t const first = size();
+      addToRuns({&codec, place.records, first, place.count, 0, false});
+      _elements.resize(first + place.count);
+      codec.clone(sources, step, place.count, place.records, place.objects, &_elements[first]);
+      sources += step * place.count;
+      count -= place.count;
    }
-   release(slot);
+}
+
+void ElementSequence::addToRuns(Run run)
+{
+   run.first = size();
+   if (!_runs.empty()) {
+      Run& last = _runs.back();
+      bool const inARow = run.records != nullptr && last.records + last.count == run.records;
+      if (last.isLike(run) || (inARow && last.codec == run.codec)) {
+         last.count += run.count;
+         if (last.codec != nullptr) {
+            _stretches.back().bytes += run.bytes();
+         }
+         return;
+      }
+   }
+   _runs.push_back(run);
+   addToStretches(_runs.size() - 1);
+}
+
+void ElementSequence::addToStretches(std::size_t index)
+{
+   Run& run = _runs[index];
+   run.offset = 0;
+   if (index == 0 || run.codec == nullptr || _runs[index - 1].codec == nullptr) {
+      _stretches.push_back({index, index, 0, 0});
+   }
+   Stretch& stretch = _stretches.back();
+   stretch.last = index + 1;
+   if (run.codec != nullptr) {
+      run.offset = stretch.bytes + paddingBefore(stretch.bytes, run.codec->bytes);
+      stretch.bytes = run.offset + run.bytes();
+      stretch.mask |= run.codec->bytes - 1;
+   }
+}
+
+// There is room for all stretches.
+void ElementSequence::layOut()
+{
+   _stretches.clear();
+   for (std::size_t i = 0; i < _runs.size(); ++i) {
+      addToStretches(i);
+   }
+}
+
+void ElementSequence::set(std::size_t index, DataElement const& element)
+{
+   Runs::iterator const run = runAt(index);
+   ScalarCodec const* const codec = scalarCodecOf(element);
+   if (run->records == nullptr || run->codec != codec) {
+      makeRoomToSplit();
+      replace(index, element.clone().release(), true);
+      return;
+   }
+   // In its place, where another one of the class is.
+   ScalarCell* const record = run->records + (index - run->first);
+   ScalarCell* const object = reinterpret_cast<ScalarCell*>(_elements[index]);
+   codec->clone(codec->recordOf(element), 0, 1, record, object, &_elements[index]);
+}
+
+void ElementSequence::setPointer(std::size_t index, DataElement* element)
+{
+   makeRoomToSplit();
+   replace(index, element, false);
+}
+
+void ElementSequence::makeRoomToSplit()
+{
+   makeRoom(_runs, 2);
+   makeRoom(_stretches, 2);
+}
+
+// There is room for two more runs.
+void ElementSequence::replace(std::size_t index, DataElement* element, bool owned)
+{
+   Run now = runOf(element, owned);
+   now.first = index;
+   Runs::iterator run = runAt(index);
+   DataElement* const old = run->owned ? _elements[index] : nullptr;
+   _elements[index] = element;
+   if (!run->isLike(now)) {
+      run = isolate(run, index - run->first);
+      *run = now;
+      joinNeighbours(run);
+      layOut();
+   }
+   delete old;
+}
+
+ElementSequence::Runs::iterator ElementSequence::runAt(std::size_t index)
+{
+   return std::upper_bound(_runs.begin(), _runs.end(), index,
+                [](std::size_t wanted, Run const& run) { return wanted < run.first; })
+         - 1;
+}
+
+ElementSequence::Runs::iterator ElementSequence::isolate(Runs::iterator run, std::size_t index)
+{
+   if (index != 0) {
+      run = _runs.insert(run, run->part(0, index)) + 1;
+      *run = run->part(index, run->count - index);
+   }
+   if (run->count != 1) {
+      run = _runs.insert(run, run->part(0, 1));
+      run[1] = run[1].part(1, run[1].count - 1);
+   }
+   return run;
+}
+
+void ElementSequence::joinNeighbours(Runs::iterator run)
+{
+   if (run + 1 != _runs.end() && run[1].isLike(*run)) {
+      run->count += run[1].count;
+      _runs.erase(run + 1);
+   }
+   if (run != _runs.begin() && run[-1].isLike(*run)) {
+      run[-1].count += run->count;
+      _runs.erase(run);
+   }
 }
 
 void ElementSequence::truncate(std::size_t size)
 {
-   if (size >= _slots.size()) {
+   if (size >= _elements.size()) {
       return;
    }
-   for (std::size_t i = size; i < _slots.size(); ++i) {
-      release(_slots[i]);
+   while (!_runs.empty() && _runs.back().first >= size) {
+      releaseFrom(_runs.back().first, _runs.back());
+      _runs.pop_back();
    }
-   _slots.resize(size);
-   countAll();
+   if (!_runs.empty()) {
+      releaseFrom(size, _runs.back());
+      _runs.back().count = size - _runs.back().first;
+   }
+   _elements.resize(size);
+   layOut();
+   ScalarCell const* used = nullptr;
+   for (Run const& run : _runs) {
+      used = run.records != nullptr ? run.records + run.count : used;
+   }
+   _memory.giveBackBehind(used);
+}
+
+// Deletes what the run owns from the element at the index on.
+void ElementSequence::releaseFrom(std::size_t index, Run const& run)
+{
+   for (; run.owned && index < run.first + run.count; ++index) {
+      delete _elements[index];
+   }
 }
 
 unsigned int ElementSequence::boundary(unsigned int least) const
 {
-   unsigned int largest = std::max(least, _scalarBoundary);
-   if (_others != 0) {
-      for (ElementSlot const& slot : _slots) {
-         largest = std::max(largest, boundaryOf(slot));
+   unsigned int largest = least;
+   for (Stretch const& stretch : _stretches) {
+      Run const& run = _runs[stretch.first];
+      largest = std::max(largest, stretch.mask + 1);
+      for (std::size_t i = 0; run.codec == nullptr && i < run.count; ++i) {
+         largest = std::max(largest, _elements[run.first + i]->getOctetBoundary());
       }
    }
    return largest;
 }
 
-void ElementSequence::encodeInto(std::vector<Octet>& buffer) const
-{
-   Slots::const_iterator slot = _slots.begin();
-   while (slot != _slots.end()) {
-      if (slot->codec != nullptr) {
-         slot = encodeScalars(slot, buffer);
-      } else {
-         slot->element->encodeInto(buffer);
-         ++slot;
-      }
-   }
-}
-
-ElementSequence::Slots::const_iterator ElementSequence::encodeScalars(
-      Slots::const_iterator first, std::vector<Octet>& buffer) const
-{
-   // So many slots that growing the vector costs little for each, and so few that they are still in
-   // the processor's nearest cache when their turn comes.
-   Slots::difference_type const atMost = 256;
-
-   Slots::const_iterator const end = first + std::min(atMost, _slots.end() - first);
-   Slots::const_iterator last = first;
-   std::size_t index = buffer.size();
-   std::size_t size = index;
-   for (; last != end && last->codec != nullptr; ++last) {
-      size += Encoder::paddingSizeInBytes(size, last->codec->bytes) + last->codec->bytes;
-   }
-   Encoder::insertBytes(buffer, size - index);
-   for (; first != last; ++first) {
-      index += Encoder::paddingSizeInBytes(index, first->codec->bytes);
-      first->codec->store(*first->element, &buffer[index]);
-      index += first->codec->bytes;
-   }
-   return last;
-}
-
 std::size_t ElementSequence::encodedLength(std::size_t start) const
 {
    std::size_t length = start;
-   for (ElementSlot const& slot : _slots) {
-      length += Encoder::paddingSizeInBytes(length, boundaryOf(slot));
-      length += slot.codec != nullptr ? slot.codec->bytes : slot.element->getEncodedLength();
+   for (Run const& run : _runs) {
+      if (run.codec != nullptr) {
+         length += paddingBefore(length, run.codec->bytes) + run.bytes();
+         continue;
+      }
+      for (std::size_t i = 0; i < run.count; ++i) {
+         DataElement const& element = *_elements[run.first + i];
+         length += Encoder::paddingSizeInBytes(length, element.getOctetBoundary());
+         length += element.getEncodedLength();
+      }
    }
    return length;
 }
 
+void ElementSequence::encodeInto(std::vector<Octet>& buffer) const
+{
+   for (Stretch const& stretch : _stretches) {
+      Run const& run = _runs[stretch.first];
+      if (run.codec != nullptr) {
+         encodeScalars(stretch, buffer);
+      } else {
+         for (std::size_t i = 0; i < run.count; ++i) {
+            _elements[run.first + i]->encodeInto(buffer);
+         }
+      }
+   }
+}
+
+void ElementSequence::encodeScalars(Stretch const& stretch, std::vector<Octet>& buffer) const
+{
+   Run const* const first = _runs.data() + stretch.first;
+   Run const* const last = _runs.data() + stretch.last;
+   if (stretch.fits(buffer.size())) {
+      Encoder::insertBytes(buffer, stretch.bytes);
+      char* const out = buffer.data() + buffer.size() - stretch.bytes;
+      for (Run const* run = first; run != last; ++run) {
+         store(*run, out + run->offset);
+      }
+      return;
+   }
+   for (Run const* run = first; run != last; ++run) {
+      std::size_t const padding = paddingBefore(buffer.size(), run->codec->bytes);
+      Encoder::insertBytes(buffer, padding + run->bytes());
+      store(*run, buffer.data() + buffer.size() - run->bytes());
+   }
+}
+
+inline void ElementSequence::store(Run const& run, char* out) const
+{
+   if (run.records != nullptr && run.count == 1) {
+      storeScalar(run.codec->kind, run.records, out);
+   } else {
+      storeMany(run, out);
+   }
+}
+
+void ElementSequence::storeMany(Run const& run, char* out) const
+{
+   ScalarCodec const& codec = *run.codec;
+   if (run.records != nullptr) {
+      codec.storeAll(run.records, run.count, out);
+      return;
+   }
+   for (std::size_t i = 0; i < run.count; ++i) {
+      storeScalar(codec.kind, codec.recordOf(*_elements[run.first + i]), out + i * codec.bytes);
+   }
+}
+
 std::size_t ElementSequence::decodeFrom(std::vector<Octet> const& buffer, std::size_t index)
 {
-   for (ElementSlot const& slot : _slots) {
-      if (ScalarCodec const* const codec = slot.codec) {
-         index += Encoder::paddingSizeInBytes(index, codec->bytes);
-         bytesLeft(buffer.size(), index, codec->bytes);
-         codec->load(*slot.element, &buffer[index]);
-         index += codec->bytes;
+   for (Stretch const& stretch : _stretches) {
+      Run const& run = _runs[stretch.first];
+      if (run.codec != nullptr) {
+         index = decodeScalars(stretch, buffer, index);
       } else {
-         index += Encoder::paddingSizeInBytes(index, slot.element->getOctetBoundary());
-         index = slot.element->decodeFrom(buffer, index);
+         for (std::size_t i = 0; i < run.count; ++i) {
+            DataElement& element = *_elements[run.first + i];
+            index += Encoder::paddingSizeInBytes(index, element.getOctetBoundary());
+            index = element.decodeFrom(buffer, index);
+         }
       }
    }
    return index;
+}
+
+std::size_t ElementSequence::decodeScalars(
+      Stretch const& stretch, std::vector<Octet> const& buffer, std::size_t index) const
+{
+   Run const* const first = _runs.data() + stretch.first;
+   Run const* const last = _runs.data() + stretch.last;
+   if (stretch.fits(index) && index <= buffer.size() && buffer.size() - index >= stretch.bytes) {
+      char const* const in = buffer.data() + index;
+      for (Run const* run = first; run != last; ++run) {
+         load(*run, in + run->offset);
+      }
+      return index + stretch.bytes;
+   }
+   // Something is misplaced or missing. What is there is decoded.
+   for (Run const* run = first; run != last; ++run) {
+      index += paddingBefore(index, run->codec->bytes);
+      std::size_t const left = index < buffer.size() ? buffer.size() - index : 0;
+      std::size_t const count = std::min(run->count, left / run->codec->bytes);
+      loadMany(*run, count, buffer.data() + index);
+      if (count < run->count) {
+         throw EncoderException(L"Index is out of bounds");
+      }
+      index += run->bytes();
+   }
+   return index;
+}
+
+inline void ElementSequence::load(Run const& run, char const* in) const
+{
+   if (run.records != nullptr && run.count == 1) {
+      loadScalar(run.codec->kind, run.records, in);
+   } else {
+      loadMany(run, run.count, in);
+   }
+}
+
+void ElementSequence::loadMany(Run const& run, std::size_t count, char const* in) const
+{
+   ScalarCodec const& codec = *run.codec;
+   if (run.records != nullptr) {
+      codec.loadAll(run.records, count, in);
+      return;
+   }
+   for (std::size_t i = 0; i < count; ++i) {
+      loadScalar(codec.kind, codec.recordOf(*_elements[run.first + i]), in + i * codec.bytes);
+   }
 }
 
 } // namespace rti1516e

@@ -3,13 +3,14 @@
 #define encoding_ElementSequence_h
 
 #include "encoding/Composite.h"
+#include "encoding/ScalarMemory.h"
 
 namespace rti1516e {
 
 // Indices are not checked.
 class ElementSequence {
 public:
-   ElementSequence();
+   ElementSequence() {}
 
    // Clones all elements, also those that rhs does not own.
    ElementSequence(ElementSequence const& rhs);
@@ -19,18 +20,21 @@ public:
 
    std::size_t size() const
    {
-      return _slots.size();
+      return _elements.size();
    }
 
    DataElement& operator[](std::size_t index) const
    {
-      return *_slots[index].element;
+      return *_elements[index];
    }
 
-   void append(ElementSlot slot);
+   // Appends a number of clones, or the caller's element.
+   void append(DataElement const& prototype, std::size_t count);
+   void appendPointer(DataElement* element);
 
-   // Puts the new element where the old one was, and releases that.
-   void replace(std::size_t index, ElementSlot slot);
+   // Puts a clone, or the caller's element, where another one was, and releases that.
+   void set(std::size_t index, DataElement const& element);
+   void setPointer(std::size_t index, DataElement* element);
 
    // Releases the elements from size on.
    void truncate(std::size_t size);
@@ -49,20 +53,84 @@ public:
    std::size_t decodeFrom(std::vector<Octet> const& buffer, std::size_t index);
 
 private:
-   typedef std::vector<ElementSlot> Slots;
+   // Elements in a row that are treated alike. Scalars that the sequence has cloned when they were
+   // appended lie in its memory, their records in a row. Of all others the elements' own pointers
+   // are followed each time: the caller may destroy an element and make another one in its place.
+   struct Run {
+      // Whether both may be one. Those in the memory are appended in one piece or not at all.
+      bool isLike(Run const& other) const
+      {
+         return codec == other.codec && owned == other.owned && records == nullptr
+               && other.records == nullptr;
+      }
 
-   // Encodes a number of scalars, the first of which is at the iterator. Returns where the next
-   // element is.
-   Slots::const_iterator encodeScalars(
-         Slots::const_iterator first, std::vector<Octet>& buffer) const;
+      Run part(std::size_t begin, std::size_t number) const
+      {
+         ScalarCell* const place = records == nullptr ? nullptr : records + begin;
+         return {codec, place, first + begin, number, 0, owned};
+      }
 
-   // Keep what boundary() goes by.
-   void count(ElementSlot const& slot);
-   void countAll();
+      // Of scalars: they leave no gaps between them.
+      std::size_t bytes() const
+      {
+         return count * codec->bytes;
+      }
 
-   Slots _slots;
-   unsigned int _scalarBoundary; // the largest among the scalars
-   std::size_t _others;          // number of elements that are no scalars
+      ScalarCodec const* codec; // null unless the elements are scalars of one class
+      ScalarCell* records;      // null unless they lie in the memory
+      std::size_t first;        // index of the first element
+      std::size_t count;        // 1 or more
+      std::size_t offset;       // of scalars: of their first byte in their stretch
+      bool owned;               // whether they are clones on the heap
+   };
+   typedef std::vector<Run> Runs;
+
+   // Runs of scalars, one behind the other, or one run of others. The offsets of scalars hold
+   // wherever their stretch begins at a multiple of its largest boundary.
+   struct Stretch {
+      bool fits(std::size_t index) const
+      {
+         return (index & mask) == 0;
+      }
+
+      std::size_t first; // indices of runs
+      std::size_t last;  // behind the last one
+      std::size_t bytes; // of scalars
+      unsigned int mask; // the largest boundary of scalars, less one; 0 of others
+   };
+
+   static Run runOf(DataElement const* element, bool owned);
+   void makeRoomFor(std::size_t elements);
+   void makeRoomToSplit();
+   void appendScalars(
+         ScalarCodec const& codec, ScalarCell const* sources, std::size_t step, std::size_t count);
+   void appendElement(DataElement* element, bool owned);
+   void addToRuns(Run run);
+   void replace(std::size_t index, DataElement* element, bool owned);
+   void releaseFrom(std::size_t index, Run const& run);
+
+   void addToStretches(std::size_t run);
+
+   // The run that has the element at the index.
+   Runs::iterator runAt(std::size_t index);
+
+   // Splits the run so that the element at the index inside it is a run of its own.
+   Runs::iterator isolate(Runs::iterator run, std::size_t index);
+   void joinNeighbours(Runs::iterator run);
+   void layOut();
+
+   void encodeScalars(Stretch const& stretch, std::vector<Octet>& buffer) const;
+   std::size_t decodeScalars(
+         Stretch const& stretch, std::vector<Octet> const& buffer, std::size_t index) const;
+   void store(Run const& run, char* out) const;
+   void storeMany(Run const& run, char* out) const;
+   void load(Run const& run, char const* in) const;
+   void loadMany(Run const& run, std::size_t count, char const* in) const;
+
+   std::vector<DataElement*> _elements;
+   Runs _runs;
+   std::vector<Stretch> _stretches;
+   ScalarMemory _memory;
 };
 
 } // namespace rti1516e
@@ -88,13 +156,13 @@ private:
    {                                                                                               \
       checkIndex(index, size());                                                                   \
       checkPrototype(hasPrototypeSameTypeAs(inData));                                              \
-      _implementation->replace(index, cloneOf(inData));                                            \
+      _implementation->set(index, inData);                                                         \
    }                                                                                               \
    void X::setElementPointer(std::size_t index, DataElement* inData) RTI_THROW((EncoderException)) \
    {                                                                                               \
       checkIndex(index, size());                                                                   \
       checkPrototype(hasPrototypeSameTypeAs(*inData));                                             \
-      _implementation->replace(index, callersOwn(inData));                                         \
+      _implementation->setPointer(index, inData);                                                  \
    }
 // clang-format on
 

@@ -11,9 +11,7 @@ public:
 
    HLAfixedArrayImplementation(DataElement const& prototype, std::size_t length)
    {
-      for (std::size_t i = 0; i < length; ++i) {
-         append(cloneOf(prototype));
-      }
+      append(prototype, length);
    }
 };
 

@@ -31,25 +31,25 @@ std::size_t HLAfixedRecord::size() const
 
 void HLAfixedRecord::appendElement(DataElement const& inData)
 {
-   _implementation->append(cloneOf(inData));
+   _implementation->append(inData, 1);
 }
 
 void HLAfixedRecord::appendElementPointer(DataElement* inData)
 {
-   _implementation->append(callersOwn(inData));
+   _implementation->appendPointer(inData);
 }
 
 void HLAfixedRecord::set(std::size_t index, DataElement const& inData) RTI_THROW((EncoderException))
 {
    checkType(hasElementSameTypeAs(index, inData));
-   _implementation->replace(index, cloneOf(inData));
+   _implementation->set(index, inData);
 }
 
 void HLAfixedRecord::setElementPointer(std::size_t index, DataElement* inData)
       RTI_THROW((EncoderException))
 {
    checkType(hasElementSameTypeAs(index, *inData));
-   _implementation->replace(index, callersOwn(inData));
+   _implementation->setPointer(index, inData);
 }
 
 DataElement const& HLAfixedRecord::get(std::size_t index) const

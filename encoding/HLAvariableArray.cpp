@@ -31,8 +31,8 @@ public:
    void resize(std::size_t count)
    {
       truncate(count);
-      while (size() < count) {
-         append(cloneOf(*prototype));
+      if (size() < count) {
+         append(*prototype, count - size());
       }
    }
 
@@ -104,12 +104,12 @@ bool HLAvariableArray::hasPrototypeSameTypeAs(DataElement const& inData) const
 
 void HLAvariableArray::addElement(DataElement const& inData) RTI_THROW((EncoderException))
 {
-   _implementation->append(cloneOf(inData));
+   _implementation->append(inData, 1);
 }
 
 void HLAvariableArray::addElementPointer(DataElement* inData) RTI_THROW((EncoderException))
 {
-   _implementation->append(callersOwn(inData));
+   _implementation->appendPointer(inData);
 }
 
 RTI_DEFINE_ARRAY_SETTERS(HLAvariableArray)

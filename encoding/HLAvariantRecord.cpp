@@ -55,7 +55,7 @@ public:
    {
       unsigned int largest = 0;
       for (Variants::value_type const& variant : variants) {
-         largest = std::max(largest, boundaryOf(variant.second));
+         largest = std::max(largest, variant.second.element->getOctetBoundary());
       }
       return largest;
    }
@@ -164,7 +164,7 @@ void HLAvariantRecord::addVariant(DataElement const& discriminant, DataElement c
 void HLAvariantRecord::addVariantPointer(DataElement const& discriminant, DataElement* valuePtr)
       RTI_THROW((EncoderException))
 {
-   _implementation->addVariant(discriminant, callersOwn(valuePtr));
+   _implementation->addVariant(discriminant, {valuePtr, false});
 }
 
 void HLAvariantRecord::setDiscriminant(DataElement const& discriminant)
@@ -182,7 +182,7 @@ void HLAvariantRecord::setVariant(DataElement const& discriminant, DataElement c
 void HLAvariantRecord::setVariantPointer(DataElement const& discriminant, DataElement* valuePtr)
       RTI_THROW((EncoderException))
 {
-   _implementation->setVariant(discriminant, callersOwn(valuePtr));
+   _implementation->setVariant(discriminant, {valuePtr, false});
 }
 
 DataElement const& HLAvariantRecord::getDiscriminant() const

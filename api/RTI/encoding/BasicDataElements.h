@@ -61,6 +61,9 @@ namespace rti1516e {
    private:                                                                                        \
       friend class X##Implementation;                                                              \
                                                                                                    \
+      /* Inside an array or a record, which holds the implementation, too. */                      \
+      explicit X(X##Implementation& inside) : _implementation(&inside) {}                          \
+                                                                                                   \
       X##Implementation* _implementation;                                                          \
    };
 

@@ -1,0 +1,130 @@
+// A value inside an element or in the caller's variable, and how it is encoded and decoded.
+#ifndef encoding_BasicValue_h
+#define encoding_BasicValue_h
+
+#include "encoding/Encoder.h"
+#include "encoding/ScalarCodec.h"
+
+#include <utility>
+
+namespace rti1516e {
+
+// What an element is made of and what its members do. Where a boundary is given, it is the one that
+// the element tells, which may be that of a federate's subclass.
+template <class ElementCoding>
+class BasicValue {
+public:
+   typedef ElementCoding Coding;
+   typedef typename Coding::Value Value;
+
+   BasicValue() : _external(nullptr), _value() {}
+   explicit BasicValue(Value const& value) : _external(nullptr), _value(value) {}
+   explicit BasicValue(Value* external) : _external(external), _value() {}
+
+   Value const& get() const
+   {
+      return _external != nullptr ? *_external : _value;
+   }
+
+   // Ends the binding.
+   void set(Value value)
+   {
+      _external = nullptr;
+      _value = std::move(value);
+   }
+
+   void bind(Value* external)
+   {
+      _external = external;
+   }
+
+   // Ends the binding first: assigned to itself it holds the default value.
+   void assign(BasicValue const& rhs)
+   {
+      *this = BasicValue();
+      set(rhs.get());
+   }
+
+   std::size_t length() const
+   {
+      return static_cast<std::size_t>(Coding::size(get()));
+   }
+
+   VariableLengthData encode() const
+   {
+      typename Coding::Bytes bytes(get());
+      return VariableLengthData(bytes.data(), bytes.size());
+   }
+
+   void encode(VariableLengthData& data) const
+   {
+      typename Coding::Bytes bytes(get());
+      data.setData(bytes.data(), bytes.size());
+   }
+
+   void encodeInto(std::vector<Octet>& buffer, unsigned int boundary) const
+   {
+      Coding::append(buffer, boundary, get());
+   }
+
+   void decode(VariableLengthData const& data, unsigned int boundary)
+   {
+      Coding::decode(data.data(), bytesLeft(data.size(), 0, boundary), decoded());
+   }
+
+   void decodeFrom(std::vector<Octet> const& buffer, std::size_t index, unsigned int boundary)
+   {
+      unsigned long const length = bytesLeft(buffer.size(), index, boundary);
+      Coding::decode(&buffer[index], length, decoded());
+   }
+
+   // Where a decoded value goes: the binding stays.
+   Value& decoded()
+   {
+      return _external != nullptr ? *_external : _value;
+   }
+
+private:
+   Value* _external; // the caller's
+   Value _value;
+};
+
+// One scalar by its kind, from its record to its bytes and back: a switch, since a call by a
+// pointer for each field of a record is felt.
+
+template <class Coding>
+BasicValue<Coding>& valueIn(ScalarCell* record)
+{
+   return *reinterpret_cast<BasicValue<Coding>*>(record);
+}
+
+#define STORE_SCALAR(Name, Value, Order, Bytes)                                                    \
+   case KIND_OF_##Name:                                                                            \
+      Encoder::Name##Coding::encode(valueIn<Encoder::Name##Coding>(record).get(), out);            \
+      break;
+
+#define LOAD_SCALAR(Name, Value, Order, Bytes)                                                     \
+   case KIND_OF_##Name:                                                                            \
+      Encoder::Name##Coding::decode(in, Bytes, valueIn<Encoder::Name##Coding>(record).decoded());  \
+      break;
+
+inline void storeScalar(ScalarKind kind, ScalarCell* record, char* out)
+{
+   switch (kind) {
+      ENCODER_FOR_EACH_SCALAR(STORE_SCALAR)
+   }
+}
+
+inline void loadScalar(ScalarKind kind, ScalarCell* record, char const* in)
+{
+   switch (kind) {
+      ENCODER_FOR_EACH_SCALAR(LOAD_SCALAR)
+   }
+}
+
+#undef STORE_SCALAR
+#undef LOAD_SCALAR
+
+} // namespace rti1516e
+
+#endif
