@@ -17,7 +17,14 @@ Octet const EMPTY_ARRAY[1] = {0};
 
 class HLAopaqueDataImplementation {
 public:
-   HLAopaqueDataImplementation() : buffer(nullptr), bufferLength(0), dataLength(0), owned(true) {}
+   HLAopaqueDataImplementation()
+         : buffer(nullptr),
+           bufferLength(0),
+           dataLength(0),
+           room(0),
+           owned(true)
+   {
+   }
 
    HLAopaqueDataImplementation(Octet const* data, std::size_t length)
          : HLAopaqueDataImplementation()
@@ -43,11 +50,14 @@ public:
       release();
    }
 
-   // A copy of its own, not null even if it is empty.
+   // A copy of its own, not null even if it is empty. The buffer stays if it is not much too large.
    void copy(Octet const* data, std::size_t length)
    {
-      release();
-      buffer = new Octet[length];
+      if (!owned || buffer == nullptr || room < length || room > 2 * length + 64) {
+         release();
+         buffer = new Octet[length];
+         room = length;
+      }
       std::copy(data, data + length, buffer);
       bufferLength = length;
       dataLength = length;
@@ -72,12 +82,14 @@ public:
       buffer = nullptr;
       bufferLength = 0;
       dataLength = 0;
+      room = 0;
       owned = true;
    }
 
    Octet* buffer;
-   std::size_t bufferLength; // bytes of room
+   std::size_t bufferLength; // bytes of the caller's buffer; of an own one as many as are in use
    std::size_t dataLength;   // bytes in use
+   std::size_t room;         // bytes of an own buffer, else 0
    bool owned;               // if not, the buffer is the caller's
 };
 
