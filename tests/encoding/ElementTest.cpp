@@ -201,6 +201,8 @@ TEST(OpaqueDataTest, isTheCallersMemory)
    pointer = memory;
    element.setDataPointer(&pointer, 4, 4);
    EXPECT_EQ(memory, element.get());
+   element.set("", 0);
+   EXPECT_NE(memory, element.get());
    element = copy;
    EXPECT_EQ("wx", dataOf(element));
    EXPECT_NE(copy.get(), element.get());
