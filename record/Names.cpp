@@ -98,6 +98,7 @@ void learnName(int ambassador, Kind kind, int handle, std::wstring const& name)
       return;
    }
    entry->key = key;
+   entry->before = there;
    entry->size = text.size();
    std::memcpy(entry->text, buffer, text.size());
    ++made;

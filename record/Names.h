@@ -21,9 +21,11 @@ enum class Kind {
    region
 };
 
-// A name as JSON text, without quotes. It stays for the length of the process.
+// A name as JSON text, without quotes. It stays for the length of the process, since a reader holds
+// no lock.
 struct Name {
    unsigned long long key;
+   Name const* before; // the one that it replaces
    std::size_t size;
    char text[1]; // and more
 };

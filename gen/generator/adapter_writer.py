@@ -2,7 +2,7 @@
 forward to the bridge object or one decoding of a handle."""
 
 from codes import RESULTS
-from layout import GLUE, NOTE, WIDTH, call, fold, glue, grouped, rule
+from layout import GLUE, NOTE, WIDTH, call, fold, grouped, rule
 from rows import parameter
 
 NAME = "RTIambassadorAdapter"
