@@ -7,24 +7,20 @@
 
 namespace rti1516e {
 
-// As memcpy, which is called only for what is long: most values are a number or a few. What lies
-// between two sizes is copied in two pieces, which may overlap.
+// As memcpy, which is called only for what is long: most values are a number.
 inline void copyBytes(void* to, void const* from, unsigned long count)
 {
-   char* const target = static_cast<char*>(to);
-   char const* const source = static_cast<char const*>(from);
-   if (count == 8) {
-      std::memcpy(target, source, 8);
-   } else if (count - 32 <= 32) {
-      std::memcpy(target, source, 32);
-      std::memcpy(target + count - 32, source + count - 32, 32);
-   } else if (count - 16 <= 16) {
-      std::memcpy(target, source, 16);
-      std::memcpy(target + count - 16, source + count - 16, 16);
-   } else if (count == 4) {
-      std::memcpy(target, source, 4);
-   } else if (count != 0) {
-      std::memcpy(target, source, count);
+   switch (count) {
+   case 0:
+      break;
+   case 4:
+      std::memcpy(to, from, 4);
+      break;
+   case 8:
+      std::memcpy(to, from, 8);
+      break;
+   default:
+      std::memcpy(to, from, count);
    }
 }
 
