@@ -36,8 +36,7 @@ class Service(Row):
         super().__init__(name, fields, group)
         self.result = result
         self.step = step
-        self.rungs = []  # as the row has them, tails by name
-        self.ladder = []  # tails expanded
+        self.rungs = []  # tails by name
         self.operation = None  # the public form
 
     @property
@@ -60,7 +59,6 @@ class Operation:
         self.out = None  # the parameter that takes a result: (C++ type, name)
         self.is_const = False
         self.throws = []  # the exception list, tails by name
-        self.exceptions = []  # tails expanded
         self.service = None  # none behind a decoder
 
 
@@ -98,11 +96,7 @@ def _fields(text):
     return fields
 
 
-def _expand(rungs, tails):
-    return [name for rung in rungs for name in tails.get(rung, [rung])]
-
-
-def _operation(service, out, words, tails):
+def _operation(service, out, words):
     """The public form: the row's own but for what its `public` and `throws` say."""
     public = RESULTS[service.result].public
     result = public.result if public else RESULTS[service.result].cpp
@@ -117,12 +111,11 @@ def _operation(service, out, words, tails):
         operation.out = (short(public.parameter), out)
     operation.is_const = match[3] is not None
     operation.throws = words["throws"].split() if "throws" in words else service.rungs
-    operation.exceptions = _expand(operation.throws, tails)
     operation.service = service
     return operation
 
 
-def _service(group, head, body, tails):
+def _service(group, head, body):
     row = re.compile(r"service (\w+) ?(.*?)(?: ?-> (\S+)(?: into (\w+))?)?(?: then (\w+))?")
     name, fields, result, out, step = row.fullmatch(head).groups()
     service = Service(name, _fields(fields), result, step, group)
@@ -133,18 +126,16 @@ def _service(group, head, body, tails):
             words[word] = rest
         else:
             service.rungs += line.split()
-    service.ladder = _expand(service.rungs, tails)
-    service.operation = _operation(service, out, words, tails)
+    service.operation = _operation(service, out, words)
     return service
 
 
-def _decoders(group, head, body, tails):
+def _decoders(group, head, body):
     for code in head.split()[1:]:
         result = short(RESULTS[code].cpp)
         operation = Operation("decode" + result, _fields("BX encodedValue"), result, group)
         operation.is_const = True
         operation.throws = body[0].split()
-        operation.exceptions = _expand(operation.throws, tails)
         yield operation
 
 
@@ -155,9 +146,9 @@ def _read_services():
         if kind == "tail":
             tails[head.split()[1]] = " ".join(body).split()
         elif kind == "decoders":
-            decoders += _decoders(group, head, body, tails)
+            decoders += _decoders(group, head, body)
         else:
-            services.append(_service(group, head, body, tails))
+            services.append(_service(group, head, body))
     return services, decoders, tails
 
 

@@ -6,6 +6,7 @@ nothing that goes wrong with the recording touches them.
 """
 
 import json
+import os
 import re
 import shutil
 import signal
@@ -217,6 +218,7 @@ def try_contract(folder, program):
 def main():
     with tempfile.TemporaryDirectory(prefix="tarn-record-") as folder:
         folder = Path(folder)
+        os.chdir(folder)
         for trial in (try_examples, try_troubles, try_many, try_bad_input, try_browser):
             trial(folder)
         if len(sys.argv) > 3:
