@@ -52,6 +52,22 @@ TEST(Bare, laddersAreClimbedInTheirOrder)
    }
 }
 
+TEST(Bare, aRungWhoseClassIsMissingLeavesNothingPending)
+{
+   ambassador();
+   java::reset();
+   java::answer("disconnect", {'X', L"why", "hla/rti1516e/exceptions/RTIinternalError", {}});
+   setenv("VM_LACKS", "exceptions/FederateIsExecutionMember", 1);
+   try {
+      ambassador().disconnect();
+      ADD_FAILURE() << "disconnected";
+   } catch (RTIinternalError const& e) {
+      EXPECT_EQ(L"why", e.what());
+   }
+   unsetenv("VM_LACKS");
+   EXPECT_FALSE(bare::environment()->ExceptionCheck());
+}
+
 // A time or an interval makes a block, its record and its bytes; a retraction handle a block and
 // its bytes.
 TEST(Bare, servicesTakeMemoryForRetractionHandlesAlone)

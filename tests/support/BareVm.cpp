@@ -127,7 +127,8 @@ void setElements(Object& array, std::vector<std::int64_t> const& numbers)
 
 jclass findClass(JNIEnv*, char const* name)
 {
-   if (isLacking(name)) {
+   isPending = isPending || isLacking(name);
+   if (isPending) { // nothing is found until it is cleared
       return nullptr;
    }
    std::lock_guard<std::mutex> const lock(namesMutex);
