@@ -73,7 +73,7 @@ install(FILES README.md CHANGELOG.md CONTRIBUTING.md SECURITY.md
    DESTINATION share/doc/tarn1516e COMPONENT documents)
 install(FILES standin/README.md DESTINATION share/doc/tarn1516e/standin COMPONENT documents)
 install(DIRECTORY docs DESTINATION share/doc/tarn1516e COMPONENT documents
-   FILES_MATCHING PATTERN *.md PATTERN *.svg PATTERN *.png)
+   FILES_MATCHING PATTERN *.md PATTERN *.svg PATTERN *.dot PATTERN *.png)
 install(DIRECTORY examples/ DESTINATION share/tarn1516e/examples COMPONENT documents)
 
 if(PROJECT_IS_TOP_LEVEL)
