@@ -305,7 +305,7 @@ void drawLogicalTime(std::ostream& out, Trace const& trace, Analysis const& anal
 {
    std::map<int, Advance> const advances = findAdvances(trace, analysis);
    if (advances.empty()) {
-      out << "<p>No federate has a logical time.</p>\n";
+      out << "<p>No federate has a logical time that is told by a number.</p>\n";
    }
    for (auto const& entry : advances) {
       Advance const& advance = entry.second;

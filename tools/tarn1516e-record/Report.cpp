@@ -126,8 +126,9 @@ std::vector<std::string> remarks(Trace const& trace, Analysis const& analysis)
 void printReport(std::ostream& out, Trace const& trace, Analysis const& analysis)
 {
    out << analysis.services << " services called, " << analysis.callbacks
-       << " callbacks received, in " << trace.threads.size() << " threads and "
-       << timeText(analysis.wall) << "\n\n";
+       << " callbacks received, in " << trace.threads.size()
+       << (trace.threads.size() == 1 ? " thread and " : " threads and ") << timeText(analysis.wall)
+       << "\n\n";
    for (std::string const& remark : remarks(trace, analysis)) {
       out << "! " << remark << '\n';
    }
