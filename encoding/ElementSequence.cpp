@@ -10,13 +10,16 @@ namespace rti1516e {
 
 namespace {
 
-// Lets a vector take so many more without a failure. It grows by doubling.
+// So many elements of a record fit what it takes for the first one.
+std::size_t const AT_FIRST = 16;
+
+// Lets a vector take so many more without a failure. It grows by doubling, and to a number at
+// least.
 template <class Vector>
-void makeRoom(Vector& vector, std::size_t more)
+void makeRoom(Vector& vector, std::size_t more, std::size_t atLeast)
 {
    std::size_t const needed = vector.size() + more;
    if (needed > vector.capacity()) {
-      std::size_t const atLeast = more == 1 ? 8 : 0;
       vector.reserve(std::max({needed, 2 * vector.capacity(), atLeast}));
    }
 }
@@ -34,6 +37,13 @@ ElementSequence::ElementSequence(ElementSequence const& rhs) : ElementSequence()
    _elements.reserve(rhs.size());
    _runs.reserve(rhs._runs.size());
    _stretches.reserve(rhs._stretches.size());
+   std::size_t scalars = 0;
+   for (Run const& run : rhs._runs) {
+      scalars += run.codec != nullptr ? run.count : 0;
+   }
+   if (scalars != 0) {
+      _memory.reserve(scalars);
+   }
    for (Run const& run : rhs._runs) {
       if (run.records != nullptr) {
          appendScalars(*run.codec, run.records, 1, run.count);
@@ -73,21 +83,22 @@ void ElementSequence::appendPointer(DataElement* element)
 
 void ElementSequence::makeRoomFor(std::size_t elements)
 {
-   makeRoom(_elements, elements);
-   makeRoom(_runs, 1);
-   makeRoom(_stretches, 1);
+   makeRoom(_elements, elements, elements == 1 ? AT_FIRST : elements);
+   makeRoom(_runs, 1, _runs.empty() ? 1 : AT_FIRST); // an array has one, a record many
+   makeRoom(_stretches, 1, 1);
 }
 
-ElementSequence::Run ElementSequence::runOf(DataElement const* element, bool owned)
+ElementSequence::Run ElementSequence::runOf(
+      DataElement const* element, std::size_t index, bool owned)
 {
    ScalarCodec const* const codec = element == nullptr ? nullptr : scalarCodecOf(*element);
-   return {codec, nullptr, 0, 1, 0, owned};
+   return {codec, nullptr, index, 1, 0, owned};
 }
 
 // There is room for it.
 void ElementSequence::appendElement(DataElement* element, bool owned)
 {
-   addToRuns(runOf(element, owned));
+   addToRuns(runOf(element, size(), owned));
    _elements.push_back(element);
 }
 
@@ -96,7 +107,7 @@ void ElementSequence::appendScalars(
 {
    while (count != 0) {
       makeRoomFor(count);
-      ScalarMemory::Place const place = _memory.take(count);
+      ScalarMemory::Place const place = _memory.take(count, count == 1 ? AT_FIRST : count);
       std::size_t const first = size();
       addToRuns({&codec, place.records, first, place.count, 0, false});
       _elements.resize(first + place.count);
@@ -106,9 +117,8 @@ void ElementSequence::appendScalars(
    }
 }
 
-void ElementSequence::addToRuns(Run run)
+void ElementSequence::addToRuns(Run const& run)
 {
-   run.first = size();
    if (!_runs.empty()) {
       Run& last = _runs.back();
       bool const inARow = run.records != nullptr && last.records + last.count == run.records;
@@ -172,15 +182,14 @@ void ElementSequence::setPointer(std::size_t index, DataElement* element)
 
 void ElementSequence::makeRoomToSplit()
 {
-   makeRoom(_runs, 2);
-   makeRoom(_stretches, 2);
+   makeRoom(_runs, 2, 2);
+   makeRoom(_stretches, 2, 2);
 }
 
 // There is room for two more runs.
 void ElementSequence::replace(std::size_t index, DataElement* element, bool owned)
 {
-   Run now = runOf(element, owned);
-   now.first = index;
+   Run const now = runOf(element, index, owned);
    Runs::iterator run = runAt(index);
    DataElement* const old = run->owned ? _elements[index] : nullptr;
    _elements[index] = element;

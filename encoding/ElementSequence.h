@@ -99,13 +99,13 @@ private:
       unsigned int mask; // the largest boundary of scalars, less one; 0 of others
    };
 
-   static Run runOf(DataElement const* element, bool owned);
+   static Run runOf(DataElement const* element, std::size_t index, bool owned);
    void makeRoomFor(std::size_t elements);
    void makeRoomToSplit();
    void appendScalars(
          ScalarCodec const& codec, ScalarCell const* sources, std::size_t step, std::size_t count);
    void appendElement(DataElement* element, bool owned);
-   void addToRuns(Run run);
+   void addToRuns(Run const& run);
    void replace(std::size_t index, DataElement* element, bool owned);
    void releaseFrom(std::size_t index, Run const& run);
 

@@ -20,12 +20,20 @@ public:
       std::size_t count;
    };
 
-   // Takes cells for so many scalars, or for as many of them as lie in a row.
-   Place take(std::size_t wanted)
+   // A block for so many scalars, if the last one is full.
+   void reserve(std::size_t size)
    {
       if (_blocks.empty() || _blocks.back().used == _blocks.back().size) {
-         addBlock(wanted);
+         _blocks.push_back({std::unique_ptr<ScalarCell[]>(new ScalarCell[2 * size]), size, 0});
       }
+   }
+
+   // Takes cells for so many scalars, or for as many of them as lie in a row. New blocks hold twice
+   // what the one before held, and at least a number.
+   Place take(std::size_t wanted, std::size_t atLeast)
+   {
+      std::size_t const doubled = _blocks.empty() ? 0 : 2 * _blocks.back().size;
+      reserve(std::max({wanted, doubled, atLeast}));
       Block& block = _blocks.back();
       std::size_t const count = std::min(wanted, block.size - block.used);
       ScalarCell* const records = block.cells.get() + block.used;
@@ -56,17 +64,6 @@ private:
       std::size_t size;
       std::size_t used;
    };
-
-   // A block at least as large as all before it, and one for a few scalars at the beginning.
-   void addBlock(std::size_t wanted)
-   {
-      std::size_t size = _blocks.empty() ? 0 : 2 * _blocks.back().size;
-      if (wanted == 1) {
-         size = std::max(size, std::size_t(8));
-      }
-      size = std::max(size, wanted);
-      _blocks.push_back({std::unique_ptr<ScalarCell[]>(new ScalarCell[2 * size]), size, 0});
-   }
 
    std::vector<Block> _blocks;
 };
