@@ -91,8 +91,8 @@ public:
 
 /// Writes the interval's toString(). It stands outside every namespace, so that code inside a
 /// namespace with inserters of its own does not find it and writes the number alone, to which the
-/// standard intervals convert: HLAinteger64Interval(3) comes out as 3. There say "using
-/// ::operator<<;" in the function or namespace, or call ::operator<<(stream, interval).
+/// standard intervals convert: HLAinteger64Interval(3) comes out as 3. There bring it in by a
+/// using-declaration with :: in front, or write the interval's toString().
 RTI_EXPORT std::wostream& operator<<(
       std::wostream& stream, rti1516e::LogicalTimeInterval const& value);
 
