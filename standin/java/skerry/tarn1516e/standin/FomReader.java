@@ -113,7 +113,8 @@ final class FomReader {
    private void readSwitch(Element element) throws InconsistentFDD {
       String name = element.getLocalName();
       if (name.equals("automaticResignAction")) {
-         String action = element.getAttribute("resignAction");
+         String action = element.hasAttribute("resignAction")
+               ? element.getAttribute("resignAction") : element.getTextContent().trim();
          if (!Resignation.NAMES.contains(action)) {
             throw inconsistent("the automatic resign action is " + action);
          }

@@ -100,7 +100,8 @@ final class Mom {
 
    private void update(String instanceName, Set<String> names) {
       ObjectInstance instance = _federation.instanceNamed(instanceName);
-      if (instance != null) {
+      boolean isKnown = instance != null && instance.knownAs.size() > 1; // not to the RTI alone
+      if (isKnown) {
          Fom.ObjectClass managed = _federation.fom().objectClasses.get(instance.objectClass);
          Set<Integer> attributes = new TreeSet<>();
          names.forEach(each -> attributes.add(managed.find(each).handle));
@@ -142,7 +143,7 @@ final class Mom {
                      || Federation.ALL.get(_federation.name()) != _federation) {
                   cancel();
                } else {
-                  ObjectInstance instance = _federation.instanceNamed(name(member.handle()));
+                  ObjectInstance instance = _federation.instanceNamed(name(now.handle()));
                   provide(instance, instance.attributes.keySet());
                }
             }

@@ -1,5 +1,5 @@
 // Values of the management object model in the standard's encodings: big-endian integers, arrays
-// with a count in front, elements on boundaries of 4 bytes. A handle and a time are arrays of bytes.
+// with a count in front, elements on boundaries of 4 bytes. Handles and times are arrays of bytes.
 package skerry.tarn1516e.standin;
 
 import java.io.ByteArrayOutputStream;

@@ -393,13 +393,13 @@ public final class LoopbackTrials {
             "b setRangeBounds r SeaArea 0-10", "b setRangeBounds q SeaArea 500-600",
             "b commitRegionModifications q,r", "b associateRegionsForUpdates s Position:q",
             "b unsubscribeObjectClass Ship",
-            "b subscribeObjectClassAttributesWithRegions Ship Position:r true -",
-            "b subscribeObjectClassAttributesWithRegions Ship Position:q false Slow",
+            "b subscribeObjectClassAttributesWithRegions Ship Position:r true Slow",
+            "b subscribeObjectClassAttributesWithRegions Ship Position:q false -",
             "a: stopRegistrationForObjectClass Ship | startRegistrationForObjectClass Ship",
             "a updateAttributeValues s Position=1 @7",
             "b: reflectAttributeValues s [Position=1] 0 1 from 1",
             "a enableAttributeRelevanceAdvisorySwitch",
-            "a: turnUpdatesOnForObjectInstance s [Position]");
+            "a: turnUpdatesOnForObjectInstance s [Position] Slow");
    }
 
    /** What a registration allocates does not grow with the instances that are there. */
