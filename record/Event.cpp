@@ -35,6 +35,7 @@ bool Event::begin()
       return false;
    }
    log->isBuilding = true;
+   _shownBytes = recording.shownBytes();
    _log = log;
    _text = Text(
          log->buffer + log->used.load(std::memory_order_relaxed), log->buffer + ThreadLog::size);

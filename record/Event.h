@@ -84,7 +84,7 @@ private:
       _text.put('"');
       _text.put(name);
       _text.put("\":");
-      show(Place{_text, _ambassador, Recording::instance().shownBytes()}, value);
+      show(Place{_text, _ambassador, _shownBytes}, value);
    }
 
    bool begin();
@@ -109,7 +109,8 @@ private:
    int _ambassador;
    ThreadLog* _log = nullptr; // while an event is being built
    Text _text;
-   bool _hasMembers = false; // of its arguments
+   std::size_t _shownBytes = 0; // of a value
+   bool _hasMembers = false;    // of its arguments
    bool _hasBegun = false;
    bool _hasReturned = false;
    bool _hasEnded = false;

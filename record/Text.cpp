@@ -37,7 +37,7 @@ char* digits(unsigned long long value, char* end)
 
 } // namespace
 
-void Text::number(long long value)
+void Text::putNumber(long long value)
 {
    char buffer[24];
    char* const end = buffer + sizeof buffer;

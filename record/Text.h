@@ -42,7 +42,15 @@ public:
       put(text.data(), text.size());
    }
 
-   void number(long long value);
+   // Handles and sizes have few digits as a rule.
+   void number(long long value)
+   {
+      if (value >= 0 && value < 10) {
+         put(static_cast<char>('0' + value));
+      } else {
+         putNumber(value);
+      }
+   }
 
    // Nanoseconds as microseconds with three decimals, as a trace has its times.
    void time(unsigned long long nanoseconds);
@@ -76,6 +84,7 @@ public:
 
 private:
    void escapedSpecial(long c);
+   void putNumber(long long value);
    void putMillionths(long long value);
 
    char* _begin;

@@ -157,6 +157,22 @@ void showText(Place const& to, Value const& value)
    showSaid(to, [&] { return value.toString(); });
 }
 
+// In hexadecimal digits, four bytes together.
+void showBytes(Place const& to, unsigned char const* bytes, std::size_t size)
+{
+   static char const hexDigits[] = "0123456789abcdef";
+   for (std::size_t i = 0; i < size && i < to.shownBytes && to.text.hasRoom(8); ++i) {
+      if (i % 4 == 0) {
+         to.text.put(' ');
+      }
+      to.text.put(hexDigits[bytes[i] >> 4]);
+      to.text.put(hexDigits[bytes[i] & 15]);
+   }
+   if (size > to.shownBytes) {
+      to.text.put(" \xe2\x80\xa6");
+   }
+}
+
 } // namespace
 
 void show(Place const& to, bool value)
@@ -195,20 +211,12 @@ void show(Place const& to, std::vector<std::wstring> const& values)
 
 void show(Place const& to, VariableLengthData const& value)
 {
-   static char const hexDigits[] = "0123456789abcdef";
+   std::size_t const size = value.size();
    to.text.put('"');
-   to.text.number(static_cast<long long>(value.size()));
+   to.text.number(static_cast<long long>(size));
    to.text.put(" bytes");
-   unsigned char const* const bytes = static_cast<unsigned char const*>(value.data());
-   for (std::size_t i = 0; i < value.size() && i < to.shownBytes && to.text.hasRoom(8); ++i) {
-      if (i % 4 == 0) {
-         to.text.put(' ');
-      }
-      to.text.put(hexDigits[bytes[i] >> 4]);
-      to.text.put(hexDigits[bytes[i] & 15]);
-   }
-   if (to.shownBytes > 0 && value.size() > to.shownBytes) {
-      to.text.put(" \xe2\x80\xa6");
+   if (to.shownBytes > 0) {
+      showBytes(to, static_cast<unsigned char const*>(value.data()), size);
    }
    to.text.put('"');
 }
