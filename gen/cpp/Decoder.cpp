@@ -145,7 +145,16 @@ std::size_t refill(ByteWrapper& buffer, ParameterHandleValueMap& values)
    return refill<ParameterHandle, makeParameterHandle>(buffer, values);
 }
 
+// Set when the thread's spares are gone. Callbacks may come after that, when objects of the
+// federate's end with the thread or with the process.
+thread_local bool hasEnded = false;
+
 struct Spares {
+   ~Spares()
+   {
+      hasEnded = true;
+   }
+
    std::unique_ptr<AttributeHandleValueMap> attributes;
    std::unique_ptr<ParameterHandleValueMap> parameters;
    std::unique_ptr<VariableLengthData> tag;
@@ -153,26 +162,42 @@ struct Spares {
    std::unique_ptr<LogicalTime> floatTime;
 };
 
-// What the thread keeps.
-Spares& spares()
+// What the thread keeps; null when it keeps nothing any more.
+Spares* spares()
 {
+   if (hasEnded) {
+      return nullptr;
+   }
    thread_local Spares kept;
-   return kept;
+   return &kept;
 }
 
-std::unique_ptr<AttributeHandleValueMap>& spareOf(AttributeHandleValueMap*)
+template <class Value>
+std::unique_ptr<Value>* spareOf(std::unique_ptr<Value> Spares::*member)
 {
-   return spares().attributes;
+   Spares* const kept = spares();
+   return kept != nullptr ? &(kept->*member) : nullptr;
 }
 
-std::unique_ptr<ParameterHandleValueMap>& spareOf(ParameterHandleValueMap*)
+std::unique_ptr<AttributeHandleValueMap>* spareOf(AttributeHandleValueMap*)
 {
-   return spares().parameters;
+   return spareOf(&Spares::attributes);
 }
 
-std::unique_ptr<VariableLengthData>& spareOf(VariableLengthData*)
+std::unique_ptr<ParameterHandleValueMap>* spareOf(ParameterHandleValueMap*)
 {
-   return spares().tag;
+   return spareOf(&Spares::parameters);
+}
+
+std::unique_ptr<VariableLengthData>* spareOf(VariableLengthData*)
+{
+   return spareOf(&Spares::tag);
+}
+
+template <class Value>
+std::unique_ptr<Value> take(std::unique_ptr<Value>* spare)
+{
+   return spare != nullptr ? std::move(*spare) : nullptr;
 }
 
 std::size_t const mostKept = 65536; // bytes
@@ -267,7 +292,7 @@ VariableLengthData decodeTag(ByteWrapper& buffer)
 template <class Value>
 JavaSpare<Value>::JavaSpare(FederateAmbassadorHelper*, ByteWrapper& buffer)
       : _spare(spareOf(static_cast<Value*>(nullptr))),
-        _value(std::move(_spare))
+        _value(take(_spare))
 {
    if (_value == nullptr) {
       _value.reset(new Value);
@@ -278,8 +303,8 @@ JavaSpare<Value>::JavaSpare(FederateAmbassadorHelper*, ByteWrapper& buffer)
 template <class Value>
 JavaSpare<Value>::~JavaSpare()
 {
-   if (_held <= mostKept) {
-      _spare = std::move(_value);
+   if (_spare != nullptr && _held <= mostKept) {
+      *_spare = std::move(_value);
    }
 }
 
@@ -407,9 +432,9 @@ void setTime(HLAfloat64Time& time, std::uint64_t bits)
 
 // A time of 8 bytes, in the thread's object or, while that is in use, in a new one.
 template <class Time>
-std::unique_ptr<LogicalTime> readTime(ByteWrapper& buffer, std::unique_ptr<LogicalTime>& spare)
+std::unique_ptr<LogicalTime> readTime(ByteWrapper& buffer, std::unique_ptr<LogicalTime>* spare)
 {
-   std::unique_ptr<LogicalTime> time = std::move(spare);
+   std::unique_ptr<LogicalTime> time = take(spare);
    if (time == nullptr) {
       time.reset(new Time);
    }
@@ -424,11 +449,11 @@ JavaLogicalTime::JavaLogicalTime(FederateAmbassadorHelper* helper, ByteWrapper& 
 {
    LogicalTimeFactory const* const factory = helper->timeFactory.get();
    if (factory != nullptr && isFloat64TimeFactory(*factory)) {
-      _spare = &spares().floatTime;
-      _value = readTime<HLAfloat64Time>(buffer, *_spare);
+      _spare = spareOf(&Spares::floatTime);
+      _value = readTime<HLAfloat64Time>(buffer, _spare);
    } else if (factory != nullptr && isInteger64TimeFactory(*factory)) {
-      _spare = &spares().integerTime;
-      _value = readTime<HLAinteger64Time>(buffer, *_spare);
+      _spare = spareOf(&Spares::integerTime);
+      _value = readTime<HLAinteger64Time>(buffer, _spare);
    } else {
       _value = helper->makeLogicalTime(buffer);
    }

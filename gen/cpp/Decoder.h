@@ -146,7 +146,7 @@ private:
    JavaSpare(JavaSpare const&) = delete;
    JavaSpare& operator=(JavaSpare const&) = delete;
 
-   std::unique_ptr<Value>& _spare; // the thread's
+   std::unique_ptr<Value>* _spare; // the thread's; null where it keeps nothing any more
    std::unique_ptr<Value> _value;
    std::size_t _held; // bytes
 };

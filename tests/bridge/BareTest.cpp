@@ -8,7 +8,9 @@
 #include <RTI/time/HLAfloat64Time.h>
 
 #include <csignal>
+#include <functional>
 #include <gtest/gtest.h>
+#include <thread>
 
 using namespace rti1516e;
 using namespace net;
@@ -102,6 +104,34 @@ TEST(Bare, callsThatAreWatchedTakeNoMoreMemoryThanKept)
       EXPECT_GE(cost.allocations, memory::allocations - before) << cost.name;
    }
    bare::state().keepsCalls = true;
+}
+
+// What the thread kept is gone by then.
+TEST(Bare, callbacksComeAlsoWhileAThreadEnds)
+{
+   struct Last {
+      std::function<void()> act;
+      ~Last()
+      {
+         act();
+      }
+   };
+   Federate federate;
+   Wire const fields = integer(1) + counted({integer(7) + block("8 bytes.")}) + block("tag!")
+         + integer(0) + integer(1) + integer(0) + integer(0);
+   std::vector<std::vector<std::string>> received;
+   std::function<void()> const reflect = [&] {
+      federate.fire("reflectAttributeValues_OIH_AHVM_BX_OT_TTH_FASRI_Native", fields.bytes);
+      received.push_back(federate.record.arguments);
+   };
+   std::thread([&] {
+      thread_local Last last{reflect}; // made before what the library keeps, destroyed after it
+      reflect();
+      reflect();
+   }).join();
+   ASSERT_EQ(3u, received.size());
+   EXPECT_EQ(3, federate.record.calls);
+   EXPECT_EQ(received[0], received[2]);
 }
 
 TEST(DeathTest, javaMethodMissing)
