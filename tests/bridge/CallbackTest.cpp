@@ -80,6 +80,7 @@ TEST(Callbacks, arriveWithEveryTimeAndOnEveryThread)
    deliverEveryCallback(net::Time::INTEGER, L"HLAinteger64Time", false);
    deliverEveryCallback(net::Time::FLOAT, L"HLAfloat64Time", false);
    deliverEveryCallback(net::Time::INTEGER, L"HLAinteger64Time", true);
+   deliverEveryCallback(net::Time::INTEGER, L"own", false); // a factory of the federate's
    deliverEveryCallback(net::Time::NONE, nullptr, false);
 }
 

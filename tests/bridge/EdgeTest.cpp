@@ -26,6 +26,8 @@ std::wstring failure(std::function<void()> const& query)
    return L"";
 }
 
+class OwnFactory : public HLAinteger64TimeFactory {};
+
 class FactoryThatReadsNothing : public HLAinteger64TimeFactory {
 public:
    using HLAinteger64TimeFactory::decodeLogicalTime;
@@ -67,6 +69,9 @@ protected:
 std::auto_ptr<LogicalTimeFactory> LogicalTimeFactoryFactory::makeLogicalTimeFactory(
       std::wstring const& name)
 {
+   if (name == L"own") {
+      return std::auto_ptr<LogicalTimeFactory>(new OwnFactory);
+   }
    return name == L"nothing" ? std::auto_ptr<LogicalTimeFactory>(new FactoryThatReadsNothing)
                              : HLAlogicalTimeFactoryFactory::makeLogicalTimeFactory(name);
 }

@@ -114,7 +114,10 @@ int main(int, char** argv)
          return 2;
       }
    }
-   // Not by way of the VM's destructors: a VM that checks JNI calls goes on to watch over its
+   if (std::getenv("VM_TELLS") != nullptr) {
+      return 0;
+   }
+   // Not by way of a real VM's destructors: one that checks JNI calls goes on to watch over its
    // signal handlers, and warns when their record is destroyed before the process is.
    _exit(0);
 }

@@ -465,7 +465,8 @@ def run(to, row, jdk):
                        for name, value in row["env"].items()}
         environment.update((name, value) for name, value in os.environ.items()
                            if "SAN_OPTIONS" in name)
-        environment.update(VM_TELLS="", VM_NULL="")  # for the VM that is none
+        if not jdk:
+            environment.update(VM_TELLS="", VM_NULL="")  # for the VM that is none
         done = subprocess.run([starter, *(step.format_map(known) for step in row["steps"])],
                               env=environment, cwd=scratch / "work", timeout=120, check=False,
                               stdin=subprocess.DEVNULL, capture_output=True)
