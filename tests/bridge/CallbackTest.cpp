@@ -86,31 +86,6 @@ TEST(Callbacks, arriveWithEveryTimeAndOnEveryThread)
 
 namespace {
 
-class TagHolder : public NullFederateAmbassador {
-public:
-   void requestAttributeOwnershipRelease(ObjectInstanceHandle, AttributeHandleSet const&,
-         VariableLengthData const& theUserSuppliedTag) override
-   {
-      hasStorage = theUserSuppliedTag.data() != nullptr;
-   }
-
-   bool hasStorage = false;
-};
-
-} // namespace
-
-TEST(Callbacks, giveAnEmptyTagStorageToo)
-{
-   Federate federate;
-   TagHolder holder;
-   federate.rti->connect(holder, HLA_EVOKED);
-   java::fire("requestAttributeOwnershipRelease_OIH_AHS_BX_Native",
-         frame(connectedHandle(), integer(7).bytes + integer(0).bytes + integer(0).bytes));
-   EXPECT_TRUE(holder.hasStorage);
-}
-
-namespace {
-
 // Lets another reflection arrive inside the first, and then looks at what the first brought.
 class Nester : public NullFederateAmbassador {
 public:
@@ -163,17 +138,6 @@ TEST(Callbacks, areEachOthersNeighbours)
       nester.seen.clear();
       java::fire(nester.native, outer);
       EXPECT_EQ((std::vector<std::string>{told(inner), told(outer)}), nester.seen) << hex(outer);
-   }
-}
-
-TEST(Callbacks, areIgnoredByTheNullAmbassador)
-{
-   Federate federate;
-   federate.join(L"HLAinteger64Time");
-   NullFederateAmbassador null;
-   federate.rti->connect(null, HLA_EVOKED);
-   for (std::string const& native : natives()) {
-      EXPECT_EQ(L"", federate.fire(native, fieldsOf(native, 0))) << native;
    }
 }
 

@@ -97,9 +97,6 @@ private:
                reflection(1, count), count == 1000 ? 1 + 2 * count : 0);
       }
       addCallback("reflect-10-changing", native, reflection(1, 10), reflection(11, 10), 0);
-      Wire const one = integer(1);
-      Wire const scope = one + counted({one, integer(2), integer(3)});
-      addCallback("attributesInScope-3", "attributesInScope_OIH_AHS", scope, scope, 3);
       addCallback("timeAdvanceGrant", "timeAdvanceGrant_LT", wire(1.5), wire(2.5), 0);
       Wire const nothing{"", 0};
       addCallback("federationSaved", "federationSaved", nothing, nothing, 0);

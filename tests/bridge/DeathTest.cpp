@@ -176,15 +176,6 @@ TEST(DeathTest, exceptionsThatMayNotPass)
          "terminate called after throwing an instance of 'rti1516e::InvalidLogicalTime'\n");
    expectDeath(
          [] {
-            std::set_unexpected([] {
-               std::fputs("the federate's handler\n", stderr);
-               std::abort();
-            });
-            askForStubbornTime();
-         },
-         "the federate's handler\n");
-   expectDeath(
-         [] {
             setenv("TARN1516_DONTCATCHALL", "", 1);
             Federate federate;
             federate.record.inside = [] { throw 42; };

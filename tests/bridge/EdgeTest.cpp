@@ -1,5 +1,4 @@
-// What no table of rows tells: bodies to the letter, and what an ambassador keeps from one call to
-// the next.
+// What no table of rows tells: what an ambassador keeps from one call to the next.
 #include "tests/bridge/Rows.h"
 #include <RTI/time/HLAfloat64Time.h>
 #include <RTI/time/HLAinteger64Interval.h>
@@ -8,7 +7,6 @@
 #include <RTI/time/HLAlogicalTimeFactoryFactory.h>
 
 #include <gtest/gtest.h>
-#include <thread>
 
 using namespace rti1516e;
 using namespace net;
@@ -47,11 +45,6 @@ protected:
       java::reset();
    }
 
-   static std::string sent()
-   {
-      return hex(java::takeCalls().back().body);
-   }
-
    static void refuse(std::string const& method, std::string const& exception)
    {
       java::answer(method, {'X', L"told", "hla/rti1516e/exceptions/" + exception, {}});
@@ -74,20 +67,6 @@ std::auto_ptr<LogicalTimeFactory> LogicalTimeFactoryFactory::makeLogicalTimeFact
    }
    return name == L"nothing" ? std::auto_ptr<LogicalTimeFactory>(new FactoryThatReadsNothing)
                              : HLAlogicalTimeFactoryFactory::makeLogicalTimeFactory(name);
-}
-
-TEST_F(Edges, bodiesToTheLetter)
-{
-   RTIambassador& rti = ambassador();
-   rti.requestFederationSave(L"s", HLAinteger64Time(258));
-   EXPECT_EQ("00 00 00 01 00 73 00 00 00 00 00 00 01 02 00 00 16 bytes", sent());
-   rti.evokeMultipleCallbacks(0.5, 1.0);
-   EXPECT_EQ("3F E0 00 00 00 00 00 00 3F F0 00 00 00 00 00 00 16 bytes", sent());
-   rti.normalizeServiceGroup(FEDERATION_MANAGEMENT);
-   EXPECT_EQ("00 00 00 01 4 bytes", sent());
-   rti.joinFederationExecution(L"T", L"F");
-   EXPECT_EQ("00 00 00 01 00 54 00 00 00 01 00 46 00 00 00 00 00 00 00 00 20 bytes",
-         hex(java::takeCalls().front().body));
 }
 
 #ifndef NET_SANITIZED // which would complain of the value before the library sees it
@@ -122,23 +101,6 @@ TEST_F(Edges, handlesOfJavaAreSigned)
       std::wstring const text = row.second();
       EXPECT_EQ(L"<-2>", text.substr(text.find(L'<'))) << row.first;
    }
-}
-
-TEST_F(Edges, handlesAreDecodedWithoutJava)
-{
-   RTIambassador& rti = ambassador();
-   VariableLengthData const word("\xFF\xFF\xFF\xFE", 4);
-   EXPECT_EQ(L"FederateHandle<4294967294>", rti.decodeFederateHandle(word).toString());
-   EXPECT_EQ(L"HandleKind<4294967294>", rti.decodeObjectClassHandle(word).toString());
-   EXPECT_EQ(L"HandleKind<4294967294>", rti.decodeInteractionClassHandle(word).toString());
-   EXPECT_EQ(L"HandleKind<4294967294>", rti.decodeObjectInstanceHandle(word).toString());
-   EXPECT_EQ(L"HandleKind<4294967294>", rti.decodeAttributeHandle(word).toString());
-   EXPECT_EQ(L"HandleKind<4294967294>", rti.decodeParameterHandle(word).toString());
-   EXPECT_EQ(L"HandleKind<4294967294>", rti.decodeDimensionHandle(word).toString());
-   EXPECT_EQ(L"HandleKind<4294967294>", rti.decodeRegionHandle(word).toString());
-   VariableLengthData const retraction("\0\0\0\x9\0\0\0\1x", 9);
-   EXPECT_EQ(bytesOf(retraction), wire(rti.decodeMessageRetractionHandle(retraction)).bytes);
-   EXPECT_TRUE(java::takeCalls().empty());
 }
 
 // A connect that fails has already replaced the ambassador and taken a handle.
@@ -249,13 +211,4 @@ TEST_F(Edges, timesThatCannotBeReadAreTold)
    EXPECT_EQ(L"The time factory made nothing of the RTI's answer", failure(rows[0].query));
    EXPECT_EQ(3, time.getTime());
    EXPECT_EQ(4, interval.getInterval());
-}
-
-TEST_F(Edges, servicesAttachTheirThread)
-{
-   java::answer("getDimensionHandle_S", {'I', L"", "", {12}});
-   std::string answered;
-   std::thread([&] { answered = wire(ambassador().getDimensionHandle(L"depth")).bytes; }).join();
-   EXPECT_EQ(integer(12).bytes, answered);
-   EXPECT_EQ(wire(std::wstring(L"depth")).whole(), java::takeCalls().back().body);
 }

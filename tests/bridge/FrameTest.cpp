@@ -92,9 +92,6 @@ public:
    }
 
 private:
-   Cliff(Cliff const&) = delete;
-   Cliff& operator=(Cliff const&) = delete;
-
    static std::size_t const room = 1 << 16;
    static std::size_t const guard = 4 * allocationLimit;
 

@@ -4,13 +4,11 @@
 #include <RTI/NullFederateAmbassador.h>
 
 #include <atomic>
-#include <condition_variable>
 #include <cstdlib>
 #include <cstring>
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <limits>
-#include <mutex>
 #include <thread>
 
 using namespace rti1516e;
@@ -69,45 +67,6 @@ TEST(Java, isTheVmThatWasAskedForAndChecksCalls)
    EXPECT_EQ(
          std::string(home) + "/lib/server", std::string(library.dli_fname, std::strlen(home) + 11));
    java::callUnchecked();
-}
-
-// The stand-in's own federation delivers here, inside evokeCallback or on a thread of Java.
-TEST(Java, callbacksMayCallServicesInBothModels)
-{
-   for (CallbackModel const model : {HLA_EVOKED, HLA_IMMEDIATE}) {
-      SCOPED_TRACE(model);
-      Federate federate;
-      java::reset(false);
-      federate.rti->disconnect();
-      std::mutex mutex;
-      std::condition_variable delivered;
-      std::wstring answered;
-      std::thread::id thread;
-      federate.record.inside = [&] {
-         std::wstring const name = federate.rti->getObjectClassName(
-               federate.rti->getObjectClassHandle(L"HLAobjectRoot"));
-         std::lock_guard<std::mutex> const lock(mutex);
-         answered = name;
-         thread = std::this_thread::get_id();
-         delivered.notify_one();
-      };
-      federate.rti->connect(*federate.callbacks, model);
-      federate.rti->createFederationExecution(L"models", NET_OBJECT_MODEL);
-      federate.rti->joinFederationExecution(L"type", L"models");
-      federate.rti->reserveObjectInstanceName(L"buoy");
-      if (model == HLA_EVOKED) {
-         federate.rti->evokeCallback(10);
-      }
-      std::unique_lock<std::mutex> lock(mutex);
-      EXPECT_TRUE(
-            delivered.wait_for(lock, std::chrono::seconds(10), [&] { return !answered.empty(); }));
-      EXPECT_EQ(L"HLAobjectRoot", answered);
-      EXPECT_EQ(model == HLA_EVOKED, thread == std::this_thread::get_id());
-      EXPECT_EQ("objectInstanceNameReservationSucceeded_S_Native", federate.record.native);
-      lock.unlock();
-      federate.rti->resignFederationExecution(NO_ACTION);
-      federate.rti->destroyFederationExecution(L"models");
-   }
 }
 
 // ---- Several threads at once, and the ends of a process

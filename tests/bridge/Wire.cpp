@@ -95,7 +95,7 @@ Wire wire(std::wstring const& value)
 
 Wire wire(VariableLengthData const& value)
 {
-   return block(bytesOf(value));
+   return block(value.data() == nullptr ? "no storage" : bytesOf(value)); // an empty one has some
 }
 
 Wire wire(RangeBounds const& value)
