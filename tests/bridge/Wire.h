@@ -73,7 +73,8 @@ template <class Number>
 auto wire(Number value)
       -> std::enable_if_t<std::is_enum<Number>::value || std::is_integral<Number>::value, Wire>
 {
-   return sizeof value == 8 ? longInteger(static_cast<std::uint64_t>(value)) : integer(value);
+   return sizeof value == 8 ? longInteger(static_cast<std::uint64_t>(value))
+                            : integer(static_cast<std::int64_t>(value));
 }
 
 template <class T>
