@@ -16,12 +16,12 @@
 
 namespace {
 
-// The low 8 bits of each character, as start-up narrows its own texts.
+// As start-up narrows its own texts, which have no characters beyond 8 bits.
 std::string narrow(std::wstring const& text)
 {
    std::string result;
    for (wchar_t const character : text) {
-      result += static_cast<char>(character);
+      result += character < 0 || character > 0xFF ? '?' : static_cast<char>(character);
    }
    return result;
 }
