@@ -68,6 +68,10 @@ RTIambassadorAdapter::~RTIambassadorAdapter() {}
 """
 
 
+def exception_list(operation):
+    return ", ".join(TAILS.get(name, name) for name in operation.throws)
+
+
 def head(operation, class_name="", indent=0, end=""):
     """An operation's declaration, or with a class name the head of its definition."""
     parameters = [f"{parameter(field)} {field.name}" for field in operation.fields]
@@ -76,8 +80,7 @@ def head(operation, class_name="", indent=0, end=""):
     scope = class_name + "::" if class_name else ""
     text = fold(call(f"{operation.result} {scope}{operation.name}(", parameters,
                      ") const" if operation.is_const else ")"), indent)
-    listed = ", ".join(TAILS.get(name, name) for name in operation.throws)
-    throws = f"RTI_THROW(({listed})){end}"
+    throws = f"RTI_THROW(({exception_list(operation)})){end}"
     if len(text.splitlines()[-1]) + 1 + len(throws) <= WIDTH:
         return f"{text} {throws}"
     return f"{text}\n{fold(throws, indent + 6)}"

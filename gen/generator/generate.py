@@ -2,9 +2,11 @@
 """Writes everything that follows from the rows: the folders whose names hold "generated".
 
    generate.py           writes the files and removes those that no row asks for any more
-   generate.py --check   only compares; tells each file that differs and exits with 1
+   generate.py --check   only compares; tells each file that differs, and each exception list of
+                         the public header that is not its row's, and exits with 1
 """
 
+import re
 import sys
 from pathlib import Path
 
@@ -15,6 +17,7 @@ import record_writer
 import rows
 
 ROOT = Path(__file__).resolve().parent.parent.parent
+INTERFACE = ROOT / "api/RTI/RTIambassador.h"
 FOLDERS = ("bridge/generated", "gen/cpp_generated", "record/generated",
            "standin/generated")
 
@@ -43,13 +46,29 @@ def differing(texts):
     return sorted(changed | (there - texts.keys()))
 
 
+def differing_lists():
+    """What public header and rows do not both have: operations' names with their exception lists.
+
+    A list of the header that is longer than that of the forward would compile."""
+    declared = re.findall(r"\n   virtual [^(;]*?(\w+)\([^;]*?RTI_THROW\(\s*\(([^()]*)\)\)",
+                          INTERFACE.read_text())
+    in_header = sorted((name, " ".join(text.split())) for name, text in declared)
+    in_rows = sorted((operation.name, adapter_writer.exception_list(operation))
+                     for operation in rows.read_operations())
+    return [entry for entry in in_header + in_rows
+            if in_header.count(entry) != in_rows.count(entry)]
+
+
 def main():
     texts = wanted()
     paths = differing(texts)
     if "--check" in sys.argv[1:]:
         for path in paths:
             print(f"{path}: not as gen/generator/generate.py writes it")
-        sys.exit(1 if paths else 0)
+        lists = differing_lists()
+        for name, exceptions in lists:
+            print(f"{name}: only the header or only the rows list: {exceptions}")
+        sys.exit(1 if paths or lists else 0)
     for path in paths:
         target = ROOT / path
         if path in texts:
