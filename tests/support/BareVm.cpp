@@ -351,20 +351,9 @@ jint attach(JavaVM*, void** found, void* arguments)
                 : JNI_OK; // a look at the environment costs more than the rest
 }
 
-jint detach(JavaVM*)
-{
-   tell("DetachCurrentThread", 0);
-   return 0;
-}
-
-jint destroy(JavaVM*)
-{
-   tell("DestroyJavaVM", 0);
-   return 0;
-}
-
+// Nobody detaches a thread or ends the VM.
 JNIInvokeInterface_ const vmFunctions = {
-      nullptr, nullptr, nullptr, destroy, attach, detach, nullptr, nullptr};
+      nullptr, nullptr, nullptr, nullptr, attach, nullptr, nullptr, nullptr};
 JavaVM vm = {&vmFunctions};
 
 } // namespace
