@@ -2,7 +2,7 @@
 """Writes the C++ that a list of names can't be: a call of every service of java.txt, and a federate
 ambassador that keeps what comes by every operation of the interface's header.
 
-   write_calls.py LIST FEDERATE_AMBASSADOR_HEADER RTI_AMBASSADOR_HEADER OUTPUT
+   write_calls.py LIST FEDERATE_AMBASSADOR_HEADER OUTPUT
 """
 
 import re
@@ -70,21 +70,8 @@ def recorder(header, natives):
         sys.exit(f"no operations for {by_form}")
 
 
-def check_lists(rows, header):
-    """Public lists name what ladders name, and the compiler holds only that they name no less."""
-    text = re.sub(r"[\s\\]+", " ", header.replace("rti1516e::", ""))
-    for name, tail in reversed(re.findall(r"#define (RTI_\w+_TAIL) ((?:\w+, )+\w+)", text)):
-        text = text.replace(name, tail)
-    ladders = [row.split() for row in re.findall(r"^service \S+ \S+ \S+(.*)$", rows, re.MULTILINE)]
-    lists = [names.split(", ") for names in re.findall(r"THROW\( ?\( ?([\w, ]+)\)\) = 0;", text)]
-    named = sum(len(names) for names in lists if "CouldNotDecode" not in names)
-    if named != sum(map(len, ladders)) + 3:  # of getTimeFactory, which has no ladder
-        sys.exit(f"{named} exceptions in the public lists")
-
-
 def main():
-    rows, header, public = (Path(path).read_text() for path in sys.argv[1:4])
-    check_lists(rows, public)
+    rows, header = (Path(path).read_text() for path in sys.argv[1:3])
     services = re.findall(r"^service (\S+) \S+ (\S+)", rows, re.MULTILINE)
     natives = re.findall(r"^callback (\S+)", rows, re.MULTILINE)
     out = [HEAD, "std::vector<ServiceCall> serviceCalls()\n{\n   return {"]
@@ -95,7 +82,7 @@ def main():
     out += ["private:\n   CallbackRecord& _record;\n};\n\n} // namespace\n",
             "std::unique_ptr<FederateAmbassador> makeRecorder(CallbackRecord& record)\n{",
             "   return std::make_unique<Recorder>(record);\n}\n\n} // namespace net\n"]
-    Path(sys.argv[4]).write_text("\n".join(out))
+    Path(sys.argv[3]).write_text("\n".join(out))
 
 
 if __name__ == "__main__":
