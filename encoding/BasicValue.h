@@ -89,42 +89,6 @@ private:
    Value _value;
 };
 
-// One scalar by its kind, from its record to its bytes and back: a switch, since a call by a
-// pointer for each field of a record is felt.
-
-template <class Coding>
-BasicValue<Coding>& valueIn(ScalarCell* record)
-{
-   return *reinterpret_cast<BasicValue<Coding>*>(record);
-}
-
-#define STORE_SCALAR(Name, Value, Order, Bytes)                                                    \
-   case KIND_OF_##Name:                                                                            \
-      Encoder::Name##Coding::encode(valueIn<Encoder::Name##Coding>(record).get(), out);            \
-      break;
-
-#define LOAD_SCALAR(Name, Value, Order, Bytes)                                                     \
-   case KIND_OF_##Name:                                                                            \
-      Encoder::Name##Coding::decode(in, Bytes, valueIn<Encoder::Name##Coding>(record).decoded());  \
-      break;
-
-inline void storeScalar(ScalarKind kind, ScalarCell* record, char* out)
-{
-   switch (kind) {
-      ENCODER_FOR_EACH_SCALAR(STORE_SCALAR)
-   }
-}
-
-inline void loadScalar(ScalarKind kind, ScalarCell* record, char const* in)
-{
-   switch (kind) {
-      ENCODER_FOR_EACH_SCALAR(LOAD_SCALAR)
-   }
-}
-
-#undef STORE_SCALAR
-#undef LOAD_SCALAR
-
 } // namespace rti1516e
 
 #endif

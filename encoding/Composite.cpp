@@ -20,21 +20,21 @@ void release(ElementSlot const& slot)
 void checkIndex(std::size_t index, std::size_t size)
 {
    if (index >= size) {
-      throw EncoderException(L"Array index out of bounds");
+      Encoder::fail(L"Array index out of bounds");
    }
 }
 
 void checkPrototype(bool sameType)
 {
    if (!sameType) {
-      throw EncoderException(L"Element doesn't match prototype");
+      Encoder::fail(L"Element doesn't match prototype");
    }
 }
 
 void checkType(bool sameType)
 {
    if (!sameType) {
-      throw EncoderException(L"Non-matching type");
+      Encoder::fail(L"Non-matching type");
    }
 }
 

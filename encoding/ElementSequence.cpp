@@ -30,6 +30,47 @@ std::size_t paddingBefore(std::size_t index, unsigned int boundary)
    return (0 - index) & (boundary - 1);
 }
 
+// One scalar by its kind, from its record to its bytes and back: a switch, and in line with its
+// only caller, since a call for each field of a record is felt.
+
+template <class Coding>
+BasicValue<Coding>& valueIn(ScalarCell* record)
+{
+   return *reinterpret_cast<BasicValue<Coding>*>(record);
+}
+
+#define STORE_SCALAR(Name, Value, Order, Bytes)                                                    \
+   case KIND_OF_##Name:                                                                            \
+      Encoder::Name##Coding::encode(valueIn<Encoder::Name##Coding>(record).get(), out);            \
+      break;
+
+#define LOAD_SCALAR(Name, Value, Order, Bytes)                                                     \
+   case KIND_OF_##Name:                                                                            \
+      Encoder::Name##Coding::decode(in, Bytes, valueIn<Encoder::Name##Coding>(record).decoded());  \
+      break;
+
+void storeScalar(ScalarKind kind, ScalarCell* record, char* out)
+{
+   switch (kind) {
+      ENCODER_FOR_EACH_SCALAR(STORE_SCALAR)
+   }
+}
+
+void loadScalar(ScalarKind kind, ScalarCell* record, char const* in)
+{
+   switch (kind) {
+      ENCODER_FOR_EACH_SCALAR(LOAD_SCALAR)
+   }
+}
+
+#undef STORE_SCALAR
+#undef LOAD_SCALAR
+
+ScalarCodec const* codecOf(DataElement const* element)
+{
+   return element == nullptr ? nullptr : scalarCodecOf(*element);
+}
+
 } // namespace
 
 ElementSequence::ElementSequence(ElementSequence const& rhs) : ElementSequence()
@@ -84,21 +125,14 @@ void ElementSequence::appendPointer(DataElement* element)
 void ElementSequence::makeRoomFor(std::size_t elements)
 {
    makeRoom(_elements, elements, elements == 1 ? AT_FIRST : elements);
-   makeRoom(_runs, 1, _runs.empty() ? 1 : AT_FIRST); // an array has one, a record many
+   makeRoom(_runs, 1, elements == 1 ? AT_FIRST : 1); // an array has one, a record many
    makeRoom(_stretches, 1, 1);
-}
-
-ElementSequence::Run ElementSequence::runOf(
-      DataElement const* element, std::size_t index, bool owned)
-{
-   ScalarCodec const* const codec = element == nullptr ? nullptr : scalarCodecOf(*element);
-   return {codec, nullptr, index, 1, 0, owned};
 }
 
 // There is room for it.
 void ElementSequence::appendElement(DataElement* element, bool owned)
 {
-   addToRuns(runOf(element, size(), owned));
+   addToRuns(codecOf(element), nullptr, 1, owned);
    _elements.push_back(element);
 }
 
@@ -109,7 +143,7 @@ void ElementSequence::appendScalars(
       makeRoomFor(count);
       ScalarMemory::Place const place = _memory.take(count, count == 1 ? AT_FIRST : count);
       std::size_t const first = size();
-      addToRuns({&codec, place.records, first, place.count, 0, false});
+      addToRuns(&codec, place.records, place.count, false);
       _elements.resize(first + place.count);
       codec.clone(sources, step, place.count, place.records, place.objects, &_elements[first]);
       sources += step * place.count;
@@ -117,20 +151,19 @@ void ElementSequence::appendScalars(
    }
 }
 
-void ElementSequence::addToRuns(Run const& run)
+// Called before the elements themselves are appended.
+void ElementSequence::addToRuns(
+      ScalarCodec const* codec, ScalarCell* records, std::size_t count, bool owned)
 {
-   if (!_runs.empty()) {
-      Run& last = _runs.back();
-      bool const inARow = run.records != nullptr && last.records + last.count == run.records;
-      if (last.isLike(run) || (inARow && last.codec == run.codec)) {
-         last.count += run.count;
-         if (last.codec != nullptr) {
-            _stretches.back().bytes += run.bytes();
-         }
-         return;
+   _runs.emplace_back(codec, records, size(), count, owned);
+   if (_runs.size() > 1 && _runs.end()[-2].isFollowedBy(_runs.back())) {
+      _runs.pop_back();
+      _runs.back().count += count;
+      if (codec != nullptr) {
+         _stretches.back().bytes += count * codec->bytes;
       }
+      return;
    }
-   _runs.push_back(run);
    addToStretches(_runs.size() - 1);
 }
 
@@ -189,7 +222,7 @@ void ElementSequence::makeRoomToSplit()
 // There is room for two more runs.
 void ElementSequence::replace(std::size_t index, DataElement* element, bool owned)
 {
-   Run const now = runOf(element, index, owned);
+   Run const now(codecOf(element), nullptr, index, 1, owned);
    Runs::iterator run = runAt(index);
    DataElement* const old = run->owned ? _elements[index] : nullptr;
    _elements[index] = element;
@@ -323,7 +356,7 @@ void ElementSequence::encodeScalars(Stretch const& stretch, std::vector<Octet>& 
    for (Run const* run = first; run != last; ++run) {
       std::size_t const padding = paddingBefore(buffer.size(), run->codec->bytes);
       Encoder::insertBytes(buffer, padding + run->bytes());
-      store(*run, buffer.data() + buffer.size() - run->bytes());
+      storeMany(*run, buffer.data() + buffer.size() - run->bytes());
    }
 }
 
@@ -344,7 +377,7 @@ void ElementSequence::storeMany(Run const& run, char* out) const
       return;
    }
    for (std::size_t i = 0; i < run.count; ++i) {
-      storeScalar(codec.kind, codec.recordOf(*_elements[run.first + i]), out + i * codec.bytes);
+      codec.storeAll(codec.recordOf(*_elements[run.first + i]), 1, out + i * codec.bytes);
    }
 }
 
@@ -384,7 +417,7 @@ std::size_t ElementSequence::decodeScalars(
       std::size_t const count = std::min(run->count, left / run->codec->bytes);
       loadMany(*run, count, buffer.data() + index);
       if (count < run->count) {
-         throw EncoderException(L"Index is out of bounds");
+         Encoder::fail(L"Index is out of bounds");
       }
       index += run->bytes();
    }
@@ -408,7 +441,7 @@ void ElementSequence::loadMany(Run const& run, std::size_t count, char const* in
       return;
    }
    for (std::size_t i = 0; i < count; ++i) {
-      loadScalar(codec.kind, codec.recordOf(*_elements[run.first + i]), in + i * codec.bytes);
+      codec.loadAll(codec.recordOf(*_elements[run.first + i]), 1, in + i * codec.bytes);
    }
 }
 

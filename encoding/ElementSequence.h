@@ -57,6 +57,17 @@ private:
    // appended lie in its memory, their records in a row. Of all others the elements' own pointers
    // are followed each time: the caller may destroy an element and make another one in its place.
    struct Run {
+      Run(ScalarCodec const* inCodec, ScalarCell* inRecords, std::size_t inFirst,
+            std::size_t inCount, bool isOwned)
+            : codec(inCodec),
+              records(inRecords),
+              first(inFirst),
+              count(inCount),
+              offset(0),
+              owned(isOwned)
+      {
+      }
+
       // Whether both may be one. Those in the memory are appended in one piece or not at all.
       bool isLike(Run const& other) const
       {
@@ -64,10 +75,17 @@ private:
                && other.records == nullptr;
       }
 
+      // Whether one that has just been appended may be a part of it.
+      bool isFollowedBy(Run const& next) const
+      {
+         bool const inARow = next.records != nullptr && records + count == next.records;
+         return isLike(next) || (inARow && codec == next.codec);
+      }
+
       Run part(std::size_t begin, std::size_t number) const
       {
          ScalarCell* const place = records == nullptr ? nullptr : records + begin;
-         return {codec, place, first + begin, number, 0, owned};
+         return {codec, place, first + begin, number, owned};
       }
 
       // Of scalars: they leave no gaps between them.
@@ -99,13 +117,12 @@ private:
       unsigned int mask; // the largest boundary of scalars, less one; 0 of others
    };
 
-   static Run runOf(DataElement const* element, std::size_t index, bool owned);
    void makeRoomFor(std::size_t elements);
    void makeRoomToSplit();
    void appendScalars(
          ScalarCodec const& codec, ScalarCell const* sources, std::size_t step, std::size_t count);
    void appendElement(DataElement* element, bool owned);
-   void addToRuns(Run const& run);
+   void addToRuns(ScalarCodec const* codec, ScalarCell* records, std::size_t count, bool owned);
    void replace(std::size_t index, DataElement* element, bool owned);
    void releaseFrom(std::size_t index, Run const& run);
 

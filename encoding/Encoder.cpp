@@ -16,7 +16,7 @@ unsigned long decodeCount(void const* buffer, unsigned long length)
 {
    long const count = decodeHLAinteger32BE(buffer, length);
    if (static_cast<unsigned long>(count) > length) {
-      throw rti1516e::EncoderException(L"Array index out of bounds");
+      fail(L"Array index out of bounds");
    }
    return static_cast<unsigned long>(count);
 }
@@ -86,6 +86,11 @@ void appendCharacters(std::vector<char>& buffer, std::wstring const& value)
 
 } // namespace
 
+void fail(wchar_t const* message)
+{
+   throw rti1516e::EncoderException(message);
+}
+
 int sizeAsInt(unsigned long size)
 {
    unsigned int const low = static_cast<unsigned int>(size);
@@ -137,11 +142,6 @@ void appendBytes(std::vector<char>& buffer, char const* bytes, unsigned long cou
 void appendInt(std::vector<char>& buffer, int value)
 {
    HLAinteger32BECoding::append(buffer, 1, value);
-}
-
-int decodeInt(std::vector<char> const& buffer, unsigned long index)
-{
-   return decodeHLAinteger32BE(&buffer[index], 4);
 }
 
 } // namespace Encoder

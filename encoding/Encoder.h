@@ -33,6 +33,9 @@
 
 namespace Encoder {
 
+// Throws EncoderException. Out of line, so that the way without it stays short.
+[[noreturn]] void fail(wchar_t const* message);
+
 // The smallest number of bytes that brings size to a multiple of boundary. A boundary of 0 is a
 // division by zero. All the family's own boundaries are powers of two, where no division is needed.
 inline unsigned long paddingSizeInBytes(unsigned long size, unsigned long boundary)
@@ -55,9 +58,6 @@ void appendBytes(std::vector<char>& buffer, char const* bytes, unsigned long cou
 
 // Adds four bytes, most significant first.
 void appendInt(std::vector<char>& buffer, int value);
-
-// Reads four bytes, most significant first. The caller guarantees that they are there.
-int decodeInt(std::vector<char> const& buffer, unsigned long index);
 
 // The integer whose bytes a value travels as, and the value back from it.
 

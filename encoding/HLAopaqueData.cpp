@@ -127,19 +127,19 @@ std::size_t HLAopaqueData::decodeFrom(std::vector<Octet> const& buffer, std::siz
       RTI_THROW((EncoderException))
 {
    if (index > buffer.size() || buffer.size() - index < 4) {
-      throw EncoderException(L"HLAopaqueData cannot decode (indata too short)");
+      Encoder::fail(L"HLAopaqueData cannot decode (indata too short)");
    }
-   long const count = Encoder::decodeInt(buffer, index);
+   long const count = Encoder::decodeHLAinteger32BE(&buffer[index], 4);
    std::size_t const length = static_cast<std::size_t>(count);
    index += 4;
    if (length > buffer.size() - index) {
-      throw EncoderException(L"Array index out of bounds");
+      Encoder::fail(L"Array index out of bounds");
    }
    Octet const* const data = length == 0 ? EMPTY_ARRAY : &buffer[index];
    if (_implementation->owned) {
       _implementation->copy(data, length);
    } else if (length > _implementation->bufferLength) {
-      throw EncoderException(L"Insufficient external storage");
+      Encoder::fail(L"Insufficient external storage");
    } else {
       std::copy(data, data + length, _implementation->buffer);
       _implementation->dataLength = length;

@@ -62,13 +62,13 @@ std::size_t HLAvariableArray::decodeFrom(std::vector<Octet> const& buffer, std::
    // 4 is the count's boundary; whoever calls has seen to the array's own.
    index += Encoder::paddingSizeInBytes(index, 4);
    if (index > buffer.size() || buffer.size() - index < 4) {
-      throw EncoderException(TOO_SHORT);
+      Encoder::fail(TOO_SHORT);
    }
-   long const count = Encoder::decodeInt(buffer, index);
+   long const count = Encoder::decodeHLAinteger32BE(&buffer[index], 4);
    index += 4;
    // An element takes one byte at least. A negative count is greater than any size.
    if (static_cast<std::size_t>(count) > buffer.size() - index) {
-      throw EncoderException(TOO_SHORT);
+      Encoder::fail(TOO_SHORT);
    }
    _implementation->resize(static_cast<std::size_t>(count));
    return _implementation->decodeFrom(buffer, index);

@@ -194,7 +194,7 @@ DataElement const& HLAvariantRecord::getVariant() const RTI_THROW((EncoderExcept
 {
    DataElement const* const variant = _implementation->current();
    if (variant == nullptr) {
-      throw EncoderException(L"Discriminant is not mapped to a value");
+      Encoder::fail(L"Discriminant is not mapped to a value");
    }
    return *variant;
 }

@@ -50,7 +50,7 @@ ScalarCodec const* scalarCodecOf(DataElement const& element);
 inline unsigned long bytesLeft(unsigned long size, unsigned long index, unsigned long boundary)
 {
    if (index >= size || size - index < boundary) {
-      throw EncoderException(L"Index is out of bounds");
+      Encoder::fail(L"Index is out of bounds");
    }
    return size - index;
 }
