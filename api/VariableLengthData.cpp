@@ -65,7 +65,7 @@ void VariableLengthData::setDataPointer(void* inData, unsigned long inSize)
 {
    _implementation->destroy();
    _implementation = VariableLengthDataImplementation::none(); // if there is no memory
-   _implementation = new VariableLengthDataImplementation;
+   _implementation = VariableLengthDataImplementation::make();
    _implementation->data = inData;
    _implementation->size = inSize;
 }

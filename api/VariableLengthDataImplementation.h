@@ -2,6 +2,8 @@
 #ifndef api_VariableLengthDataImplementation_h
 #define api_VariableLengthDataImplementation_h
 
+#include "api/SpareMemory.h"
+
 #include <RTI/VariableLengthData.h>
 
 #include <cstring>
@@ -17,6 +19,11 @@ public:
 
    VariableLengthDataImplementation(VariableLengthDataImplementation const&) = delete;
    VariableLengthDataImplementation& operator=(VariableLengthDataImplementation const&) = delete;
+
+   static VariableLengthDataImplementation* make()
+   {
+      return make(sizeof(VariableLengthDataImplementation));
+   }
 
    // The shared record of objects that never had bytes. Their data() is null.
    static VariableLengthDataImplementation* none()
@@ -34,8 +41,7 @@ public:
       if (bytes < inSize) { // more than there are addresses
          throw std::bad_alloc();
       }
-      VariableLengthDataImplementation* const record =
-            new (::operator new(bytes)) VariableLengthDataImplementation;
+      VariableLengthDataImplementation* const record = make(bytes);
       record->room = static_cast<unsigned int>(inSize < MOST_ROOM ? inSize : MOST_ROOM);
       record->setCopy(inData, inSize);
       return record;
@@ -67,7 +73,7 @@ public:
       } else if (owned) {
          delete[] static_cast<char*>(data);
       }
-      ::operator delete(this);
+      SpareMemory::free(this, sizeof(*this) + room);
    }
 
    void* data;
@@ -78,6 +84,11 @@ public:
    bool shared;
 
 private:
+   static VariableLengthDataImplementation* make(unsigned long bytes)
+   {
+      return new (SpareMemory::allocate(bytes)) VariableLengthDataImplementation;
+   }
+
    static unsigned int const MOST_ROOM = 0xFFFFFFFF;
    static VariableLengthDataImplementation const NONE;
    static VariableLengthDataImplementation const COPY_OF_NONE;

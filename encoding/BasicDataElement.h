@@ -50,7 +50,7 @@ void cloneScalars(ScalarCell const* sources, std::size_t step, std::size_t count
    Implementation const* source = reinterpret_cast<Implementation const*>(sources);
    for (std::size_t i = 0; i < count; ++i, source += step) {
       typename Implementation::Value const value = source->get(); // the source may be the place
-      Implementation* const implementation = new (records + i) Implementation(value);
+      Implementation* const implementation = ::new (records + i) Implementation(value);
       elements[i] = Implementation::place(objects + i, *implementation);
    }
 }

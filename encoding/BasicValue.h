@@ -2,6 +2,7 @@
 #ifndef encoding_BasicValue_h
 #define encoding_BasicValue_h
 
+#include "api/SpareMemory.h"
 #include "encoding/Encoder.h"
 #include "encoding/ScalarCodec.h"
 
@@ -20,6 +21,17 @@ public:
    BasicValue() : _external(nullptr), _value() {}
    explicit BasicValue(Value const& value) : _external(nullptr), _value(value) {}
    explicit BasicValue(Value* external) : _external(external), _value() {}
+
+   // Federates make elements that end with the statement.
+   static void* operator new(std::size_t size)
+   {
+      return SpareMemory::allocate(size);
+   }
+
+   static void operator delete(void* memory, std::size_t size)
+   {
+      SpareMemory::free(memory, size);
+   }
 
    Value const& get() const
    {

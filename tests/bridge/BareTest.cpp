@@ -4,12 +4,14 @@
 #include "tests/bridge/Rows.h"
 #include "tests/support/BareVm.h"
 #include "tests/support/Memory.h"
+#include <RTI/encoding/BasicDataElements.h>
 #include <RTI/time/HLAfloat64Interval.h>
 #include <RTI/time/HLAfloat64Time.h>
 
 #include <csignal>
 #include <functional>
 #include <gtest/gtest.h>
+#include <map>
 #include <thread>
 
 using namespace rti1516e;
@@ -106,6 +108,26 @@ TEST(Bare, callsThatAreWatchedTakeNoMoreMemoryThanKept)
    bare::state().keepsCalls = true;
 }
 
+#ifndef NET_SANITIZED
+TEST(Bare, valuesOfAStatementTakeNoMemoryAndNothingStaysBehindAThread)
+{
+   std::map<int, VariableLengthData> kept;
+   auto const make = [&kept] {
+      for (int i = 0; i < 10; ++i) {
+         kept[i] = HLAfloat64BE(i).encode();
+      }
+   };
+   make();
+   long const before = memory::allocations;
+   make();
+   EXPECT_EQ(before, memory::allocations);
+
+   long const held = memory::held;
+   std::thread(make).join();
+   EXPECT_EQ(held, memory::held);
+}
+#endif
+
 // What the thread kept is gone by then.
 TEST(Bare, callbacksComeAlsoWhileAThreadEnds)
 {
@@ -121,6 +143,7 @@ TEST(Bare, callbacksComeAlsoWhileAThreadEnds)
          + integer(0) + integer(1) + integer(0) + integer(0);
    std::vector<std::vector<std::string>> received;
    std::function<void()> const reflect = [&] {
+      EXPECT_EQ(8U, HLAfloat64BE(0.5).encode().size());
       federate.fire("reflectAttributeValues_OIH_AHVM_BX_OT_TTH_FASRI_Native", fields.bytes);
       received.push_back(federate.record.arguments);
    };

@@ -5,6 +5,7 @@
 
 std::size_t memory::limit = memory::noLimit;
 long memory::allocations;
+long memory::held;
 
 void* operator new(std::size_t size)
 {
@@ -13,6 +14,7 @@ void* operator new(std::size_t size)
    if (place == nullptr) {
       throw std::bad_alloc();
    }
+   ++memory::held;
    return place;
 }
 
@@ -23,20 +25,21 @@ void* operator new[](std::size_t size)
 
 void operator delete(void* place) noexcept
 {
+   memory::held -= place != nullptr;
    std::free(place);
 }
 
 void operator delete[](void* place) noexcept
 {
-   std::free(place);
+   operator delete(place);
 }
 
 void operator delete(void* place, std::size_t) noexcept
 {
-   std::free(place);
+   operator delete(place);
 }
 
 void operator delete[](void* place, std::size_t) noexcept
 {
-   std::free(place);
+   operator delete(place);
 }

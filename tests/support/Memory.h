@@ -12,6 +12,7 @@ std::size_t const noLimit = static_cast<std::size_t>(1) << 38;
 // A program with one thread may change the limit, in bytes.
 extern std::size_t limit;
 extern long allocations;
+extern long held; // and not freed yet
 
 } // namespace memory
 
