@@ -32,9 +32,6 @@ struct Spares {
    bool areGone;
 };
 
-#ifdef __GLIBC__
-__attribute__((tls_model("initial-exec"))) // at a fixed distance from the thread's own address
-#endif
 thread_local Spares spares;
 
 struct AtEnd {
