@@ -8,7 +8,6 @@
 #include <cstdio>
 #include <iostream>
 #include <string>
-#include <vector>
 
 using namespace rti1516e;
 using namespace tarn1516e;
@@ -29,14 +28,14 @@ void writeBody()
    CppWrapper<AttributeHandleValueMap const&> wrappedValues(nullptr, values);
    CppWrapper<VariableLengthData const&> wrappedTag(nullptr, tag);
 
-   std::vector<unsigned char> body(
-         object.getEncodedSize() + wrappedValues.getEncodedSize() + wrappedTag.getEncodedSize());
-   ByteWrapper buffer(reinterpret_cast<char*>(body.data()));
+   std::string body(
+         object.getEncodedSize() + wrappedValues.getEncodedSize() + wrappedTag.getEncodedSize(), 0);
+   ByteWrapper buffer(&body[0]);
    object.encode(buffer);
    wrappedValues.encode(buffer);
    wrappedTag.encode(buffer);
-   for (unsigned char const byte : body) {
-      std::printf("%02X", byte);
+   for (char const byte : body) {
+      std::printf("%02X", static_cast<unsigned char>(byte));
    }
    std::printf("\n");
 }
