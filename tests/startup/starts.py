@@ -7,7 +7,7 @@ Without a JDK the VM is none, see tests/support/BareVm.h; with one, the classes 
 the steps of a start may be, see starter.cpp. All texts may name
 
    {scratch}  the start's folder. The federate lies in {scratch}/home/lib/x, beside the libraries,
-              and starts in {scratch}/work
+              and starts in {scratch}/cwd
    {home}     the installation, as the library finds it from its own place
    {library}  the library, as it was loaded
    {VM}       where the library of an installation's VM lies
@@ -89,8 +89,8 @@ LONG = "p" * 3000
 
 NO_VMS = [
     failing("nothing at all", NO_VM + "(unknown)"),
-    failing("a path without a VM", NO_VM + "/nowhere:{scratch}/work",
-            env={"LD_LIBRARY_PATH": "/nowhere:{scratch}/work"}),
+    failing("a path without a VM", NO_VM + "/nowhere:{scratch}/cwd",
+            env={"LD_LIBRARY_PATH": "/nowhere:{scratch}/cwd"}),
     failing("an empty path", NO_VM, env={"LD_LIBRARY_PATH": ""}),
     failing("a path beyond ASCII", NO_VM + "/\xc3\xa9", env={"LD_LIBRARY_PATH": "/\xc3\xa9"}),
     failing("a text that is cut", (NO_VM + LONG)[:2047], env={"LD_LIBRARY_PATH": LONG}),
@@ -128,7 +128,7 @@ REFUSALS = [
 
 def options(name, *texts, env=(), lay=(), file=None):
     """The texts stand behind the five that are always there; "-Xss1024k" ends them."""
-    lay = {**FAKE, **dict(lay), **({} if file is None else {"work/tarn.vmoptions": file})}
+    lay = {**FAKE, **dict(lay), **({} if file is None else {"cwd/tarn.vmoptions": file})}
     return failing(name, REFUSED, lay, {**dict(env), "VM_CREATE": "-6"}, CHECKED + created(*texts))
 
 
@@ -180,7 +180,7 @@ OPTIONS = [
           ":{home}lib/tarn1516e.jar"),
     first(options("a class path and no jar", "-Xss1024k", env={"CLASSPATH": "a.jar:b"}), "a.jar:b"),
     first(failing("a jar below the directory, without a home", REFUSED,
-                  {**ON_PATH, "work/lib/tarn1516e.jar": ""},
+                  {**ON_PATH, "cwd/lib/tarn1516e.jar": ""},
                   {"VM_CREATE": "-6", "{search}": "{scratch}/path"}, CHECKED + NO_OPTIONS),
           ":lib/tarn1516e.jar"),
 ]
@@ -244,7 +244,7 @@ STARTS = [
 # ---- The trace -----------------------------------------------------------------------------------
 
 ON = {"TARN1516E_TRACE_LOAD": ""}
-PLACE = trace("Starting tarn1516e library", "Current directory '{scratch}/work'",
+PLACE = trace("Starting tarn1516e library", "Current directory '{scratch}/cwd'",
               "Loaded tarn1516e library from '{library}'")
 NO_HOME = "Tarn home not found. Will use PATH/CLASSPATH"
 FOUND = PLACE + trace("Tarn home found at  '{home}'")
@@ -302,7 +302,7 @@ TRACES = [
             PLACE + trace(NO_HOME) + AVAILABLE + UNKNOWN),
     start("traced: a long path to the directory", {}, ON, "go {at511} create go {at512} create",
           2 * thrown(NO_VM + "(unknown)"),
-          "".join(PLACE.replace("{scratch}/work", path) + trace(NO_HOME, NO_VM + "(unknown)")
+          "".join(PLACE.replace("{scratch}/cwd", path) + trace(NO_HOME, NO_VM + "(unknown)")
                   + NO_VM + "(unknown)"
                   for path in ("{at511}", "<error retrieving current directory>"))),
     failing("traced: a VM that is not created", REFUSED, FAKE, {**ON, "VM_CREATE": "-6"},
@@ -367,7 +367,7 @@ UNKNOWN_NATIVE = (
 THROW = "-Dtarn.standin.constructor=throw"
 RAISED = 'Exception in thread "main" java.lang.IllegalStateException'
 IGNORED = {**variables(THROW), "CLASSPATH": "{jar}"}
-IGNORED_FILE = {"work/tarn.vmoptions": THROW + "\n"}
+IGNORED_FILE = {"cwd/tarn.vmoptions": THROW + "\n"}
 WITH_CLASSES = "-Dtarn.standin.quiet -Djava.class.path={jar} then "
 JAVAS = [
     start("no variable at all", JAVA, {}, "create create", "created\ncreated\n",
@@ -433,7 +433,7 @@ def names(to, scratch, jdk):
         return path + "c" * (length - len(path))
 
     return {"scratch": str(scratch), "home": f"{scratch}/home/lib/x/../../", "jdk": jdk,
-            "library": f"{scratch}/home/lib/x/{to.library.name}", "library-name": to.library.name,
+            "library": f"{scratch}/home/lib/x/{to.rti1516e.name}", "library-name": to.rti1516e.name,
             "libjvm": to.libjvm, "VM": f"jre/lib/server/{to.libjvm}", "search": to.search,
             "jar": to.jar, "classes": to.classes, "vm0": to.vm0, "vm1": to.vm1, "vm2": to.vm2,
             "at511": folder_of(511), "at512": folder_of(512)}
@@ -451,9 +451,9 @@ def run(to, row, jdk):
     """What differs in the whole of both streams."""
     with sdk.Scratch() as scratch:
         known = names(to, scratch, jdk)
-        for folder in (scratch / "home/lib/x", scratch / "work", known["at511"], known["at512"]):
+        for folder in (scratch / "home/lib/x", scratch / "cwd", known["at511"], known["at512"]):
             Path(folder).mkdir(parents=True)
-        for file in (to.library, to.fedtime):
+        for file in (to.rti1516e, to.fedtime):
             (scratch / "home/lib/x" / file.name).symlink_to(file)
         # A copy: the system takes a link's target for the place of a program. It is made by another
         # process, since one that this forks meanwhile would hold the file open for writing.
@@ -468,7 +468,7 @@ def run(to, row, jdk):
         if not jdk:
             environment.update(VM_TELLS="", VM_NULL="")  # for the VM that is none
         done = subprocess.run([starter, *(step.format_map(known) for step in row["steps"])],
-                              env=environment, cwd=scratch / "work", timeout=120, check=False,
+                              env=environment, cwd=scratch / "cwd", timeout=120, check=False,
                               stdin=subprocess.DEVNULL, capture_output=True)
     # The VM writes the frames of a stack in its own way.
     frames = re.compile(r"^\t(at |\.\.\. ).*\n", re.MULTILINE)

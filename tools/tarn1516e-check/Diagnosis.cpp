@@ -146,7 +146,7 @@ bool Diagnosis::library()
             std::string("take its folder out of ") + tarn1516e::libraryPathVariable
                   + " if federates are to use the latter.");
    }
-   return _report.found(file + " (" + versions().library + ", " + ownMachine() + ")");
+   return _report.found(file + " (" + versions().rti + ", " + ownMachine() + ")");
 }
 
 bool Diagnosis::home()

@@ -109,7 +109,7 @@ void Report::printJson(Versions const& versions, Output const& output) const
    };
    std::printf("{\n   \"starts\": %s,\n", _hasFailed ? "false" : "true");
    std::printf("   \"versions\": {\"library\": %s, \"vm\": %s, \"jar\": %s},\n",
-         json::textOrNull(versions.library).c_str(), json::textOrNull(versions.vm).c_str(),
+         json::textOrNull(versions.rti).c_str(), json::textOrNull(versions.vm).c_str(),
          json::textOrNull(versions.jar).c_str());
    std::printf("   \"findings\": %s,\n", json::list(findings, "   ").c_str());
    std::printf("   \"trace\": %s,\n", quoted(output.trace).c_str());

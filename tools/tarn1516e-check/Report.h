@@ -22,7 +22,7 @@ public:
    void warn(std::string const& what, std::string const& remedy);
 
    struct Versions {
-      std::string library, vm, jar; // empty if unknown
+      std::string rti, vm, jar; // empty if unknown
    };
    struct Output {
       std::vector<std::string> trace; // lines of the library's own trace
