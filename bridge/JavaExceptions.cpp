@@ -4,9 +4,9 @@
 
 #include "jvm/JavaString.h"
 #include "jvm/Text.h"
+#include "runtime/StandardError.h"
 
 #include <algorithm>
-#include <cstdio>
 
 namespace tarn1516e {
 
@@ -55,7 +55,7 @@ bool checkEx(JNIEnv* env, jobject exception, char const* className, std::wstring
 
 void unhandledException(JNIEnv* env, jobject exception)
 {
-   std::fputs("Unhandled exception\n", stderr);
+   tarn1516e::writeError("Unhandled exception\n");
    jclass const type = env->FindClass("java/lang/Exception");
    env->CallVoidMethod(exception, env->GetMethodID(type, "printStackTrace", "()V"));
    env->ExceptionClear();
@@ -64,6 +64,15 @@ void unhandledException(JNIEnv* env, jobject exception)
    env->DeleteLocalRef(type);
    env->DeleteLocalRef(exception);
    throw rti1516e::RTIinternalError(message);
+}
+
+void describePending(JNIEnv* env)
+{
+   if (jthrowable const exception = env->ExceptionOccurred()) {
+      env->ExceptionDescribe();
+      env->ExceptionClear();
+      env->DeleteLocalRef(exception);
+   }
 }
 
 void throwJava(JNIEnv* env, char const* className, char const* message)

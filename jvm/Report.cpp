@@ -3,9 +3,9 @@
 
 #include "jvm/StartTexts.h"
 #include "jvm/Text.h"
+#include "runtime/StandardError.h"
 #include <RTI/Exception.h>
 
-#include <cstdio>
 #include <cstdlib>
 
 namespace tarn1516e {
@@ -18,13 +18,13 @@ void Trace::readEnvironment()
 void Trace::operator()(std::string const& line) const
 {
    if (_isOn) {
-      std::fprintf(stderr, "%s%s\n", text::tracePrefix, line.c_str());
+      writeError(text::tracePrefix + line + "\n");
    }
 }
 
 void fail(std::wstring const& text)
 {
-   std::fprintf(stderr, "%s", wstring2string(text).c_str());
+   writeError(wstring2string(text));
    throw rti1516e::RTIinternalError(text);
 }
 

@@ -1,8 +1,9 @@
 // Writes a recording, and ends it in good order where the limit or the disk ends.
 #include "record/TraceFile.h"
 
+#include "runtime/StandardError.h"
+
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -104,8 +105,8 @@ void TraceFile::fail(char const* why)
 
 void TraceFile::end(char const* why)
 {
-   std::fprintf(stderr, "tarn1516e-record: %s: %s; the recording ends, the federate goes on\n",
-         _path.c_str(), why);
+   writeError("tarn1516e-record: " + _path + ": " + why
+         + "; the recording ends, the federate goes on\n");
    leave();
 }
 

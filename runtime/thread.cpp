@@ -1,7 +1,8 @@
 // Threads over POSIX, and their numbers.
 #include <tarn1516e/thread.h>
 
-#include <cstdio>
+#include "runtime/StandardError.h"
+
 #include <map>
 #include <memory>
 #include <ostream>
@@ -53,7 +54,7 @@ thread::thread(void (*function)(void*), void* argument)
 thread::~thread()
 {
    if (joinable()) {
-      std::fputs("Warning: thread::~thread() called before thread::join()!\n", stderr);
+      writeError("Warning: thread::~thread() called before thread::join()!\n");
    }
 }
 
@@ -86,8 +87,7 @@ void* thread::wrapper_function(void* record)
    try {
       start->function(start->argument);
    } catch (...) {
-      std::fputs(
-            "Warning: Uncaught exceptions throw from thread function! Terminating...\n", stderr);
+      writeError("Warning: Uncaught exceptions throw from thread function! Terminating...\n");
    }
    lock_guard<mutex> guard(start->object->_lock);
    start->object->_notAThread = true;

@@ -42,6 +42,7 @@ jobject newRtiObject(JNIEnv* env, jclass type)
 {
    jmethodID const constructor = env->GetMethodID(type, "<init>", "([B)V");
    if (constructor == nullptr) {
+      env->ExceptionClear();
       fail(text::noConstructor);
    }
    std::vector<std::wstring> const arguments; // none so far
@@ -107,10 +108,7 @@ RTIambassadorC::~RTIambassadorC()
 
 void RTIambassadorC::reportClassLoadingError(JNIEnv* env, std::wstring const& which)
 {
-   if (env->ExceptionOccurred() != nullptr) {
-      env->ExceptionDescribe();
-      env->ExceptionClear();
-   }
+   describePending(env);
    char const* const path = std::getenv("CLASSPATH");
    std::string const text = format(text::noClasses, wstring2string(which).c_str(),
          JVM::isShared() ? "existing" : "new", path != nullptr ? path : "(unknown)");

@@ -1,7 +1,7 @@
 // A table that only grows: a slot, once written, is read without a lock.
 #include "gen/cpp/HandleTable.h"
 
-#include <cstdio>
+#include "runtime/StandardError.h"
 
 namespace {
 
@@ -22,7 +22,7 @@ int makeHandle(void* pointer)
          return nextHandle;
       }
    }
-   std::fprintf(stderr, "No more FederateAmbassador handles\n");
+   tarn1516e::writeError("No more FederateAmbassador handles\n");
    return 0;
 }
 

@@ -35,6 +35,9 @@ bool checkEx(JNIEnv* env, jobject exception, char const* className, std::wstring
 // throws RTIinternalError with its toString text, or an empty one. Nothing is pending afterwards.
 [[noreturn]] void unhandledException(JNIEnv* env, jobject exception);
 
+// Lets Java describe what is pending, if anything is, and ends it.
+void describePending(JNIEnv* env);
+
 // Raises a Java exception in env. The class name is dotted or slashed. A wide message loses all
 // but the low 8 bits of each character.
 void throwJava(JNIEnv* env, char const* className, char const* message);

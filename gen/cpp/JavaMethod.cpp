@@ -3,8 +3,8 @@
 
 #include "jvm/Assert.h"
 #include "jvm/StartTexts.h"
-
-#include <cstdio>
+#include "jvm/Text.h"
+#include "runtime/StandardError.h"
 
 namespace tarn1516e {
 
@@ -12,7 +12,7 @@ jmethodID bind(JNIEnv* env, jclass type, char const* name, char const* signature
 {
    jmethodID const id = env->GetMethodID(type, name, signature);
    if (id == nullptr) {
-      std::fprintf(stderr, text::noMethod, name);
+      writeError(format(text::noMethod, name));
    }
    TARN_ASSERT(id != 0);
    return id;

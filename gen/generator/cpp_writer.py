@@ -188,8 +188,7 @@ NATIVES = """
 #include "gen/cpp/Decoder.h"
 #include "jvm/Installation.h"
 #include "jvm/StartTexts.h"
-
-#include <cstdio>
+#include "runtime/StandardError.h"
 
 using namespace rti1516e;
 using namespace tarn1516e;
@@ -212,19 +211,16 @@ JNINativeMethod native(char const* name, void (*function)(JNIEnv*, jobject, jbyt
 void registerNatives(JNIEnv* env)
 {{
    jclass const type = env->FindClass(nativesClass);
-   if (env->ExceptionOccurred() != nullptr) {{
-      env->ExceptionDescribe();
-      env->ExceptionClear();
-   }}
+   describePending(env);
    if (type == nullptr) {{
-      std::fputs(text::noNativesClass, stderr);
+      writeError(text::noNativesClass);
       return;
    }}
    JNINativeMethod const nm[] = {{
 {table}
    }};
    if (env->RegisterNatives(type, nm, sizeof nm / sizeof *nm) != 0) {{
-      std::fputs(text::nativesRefused, stderr);
+      writeError(text::nativesRefused);
       env->ExceptionDescribe(); // names the native that Java does not know
       env->ExceptionClear();    // the ambassador is made all the same
    }}

@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <cwchar>
 #include <dlfcn.h>
 #include <functional>
 #include <jni.h>
@@ -91,6 +92,8 @@ int main(int, char** argv)
          tell(create());
       } else if (std::strcmp(step, "threads") == 0) {
          createOnTwoThreads();
+      } else if (std::strcmp(step, "wide") == 0) {
+         std::fputws(L"wide\n", stderr);
       } else if (std::strcmp(step, "names") == 0) {
          tell(narrow(rti1516e::rtiName() + L" " + rti1516e::rtiVersion()) + "\n");
       } else if (std::strcmp(step, "set") == 0) {

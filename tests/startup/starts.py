@@ -89,6 +89,8 @@ LONG = "p" * 3000
 
 NO_VMS = [
     failing("nothing at all", NO_VM + "(unknown)"),
+    start("after wide output", steps="wide create", out=thrown(NO_VM + "(unknown)"),
+          err="wide\n" + NO_VM + "(unknown)"),
     failing("a path without a VM", NO_VM + "/nowhere:{scratch}/cwd",
             env={"LD_LIBRARY_PATH": "/nowhere:{scratch}/cwd"}),
     failing("an empty path", NO_VM, env={"LD_LIBRARY_PATH": ""}),
@@ -402,7 +404,7 @@ JAVAS = [
     start("no adapter class", JRE, {**variables(*WATCHED), "CLASSPATH": "{classes}/core"}, "create",
           **not_loaded("RTIambassadorC2007", "adapter", "{classes}/core")),
     start("no such constructor", JAVA, {**variables(*WATCHED), "CLASSPATH": "{classes}/unfit"},
-          "create", thrown(UNFIT), UNFIT),
+          "create create", 2 * thrown(UNFIT), 2 * UNFIT),
     start("a constructor that throws", JAVA, variables(*WATCHED, THROW + ":no licence"),
           "create create", 2 * thrown("no licence"), 2 * (RAISED + ": no licence\n")),
     start("one that throws without a text", JAVA, variables(*WATCHED, THROW), "create",

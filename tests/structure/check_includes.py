@@ -13,11 +13,11 @@ MAY_INCLUDE = {
     "runtime": ("api/",),
     "encoding": ("api/",),
     "time": ("api/", "encoding/Encoder.h"),
-    "jvm": ("api/",),
+    "jvm": ("api/", "runtime/"),
     "fedtime": ("api/",),
-    "gen": ("api/", "jvm/"),
-    "bridge": ("api/", "jvm/", "gen/"),
-    "record": ("api/",),
+    "gen": ("api/", "jvm/", "runtime/"),
+    "bridge": ("api/", "jvm/", "gen/", "runtime/"),
+    "record": ("api/", "runtime/"),
     "tools": ("api/", "jvm/"),
 }
 JNI_ROOMS = ("jvm", "gen", "bridge", "tools")
