@@ -94,7 +94,7 @@ constexpr ScalarCodec codecOf()
    void X::encode(VariableLengthData& inData) const RTI_THROW((EncoderException))                  \
    { _implementation->encode(inData); }                                                            \
    void X::encodeInto(std::vector<Octet>& buffer) const RTI_THROW((EncoderException))              \
-   { _implementation->encodeInto(buffer, getOctetBoundary()); }                                    \
+   { _implementation->encodeInto(buffer, getOctetBoundary(), getEncodedLength()); }                \
    void X::decode(VariableLengthData const& inData) RTI_THROW((EncoderException))                  \
    { _implementation->decode(inData, getOctetBoundary()); }                                        \
    std::size_t X::decodeFrom(std::vector<Octet> const& buffer, std::size_t index)                  \

@@ -10,8 +10,8 @@
 
 namespace rti1516e {
 
-// What an element is made of and what its members do. Where a boundary is given, it is the one that
-// the element tells, which may be that of a federate's subclass.
+// What an element is made of and what its members do. Where a boundary or a length is given, it is
+// the one that the element tells, which may be that of a federate's subclass.
 template <class ElementCoding>
 class BasicValue {
 public:
@@ -74,19 +74,25 @@ public:
       data.setData(bytes.data(), bytes.size());
    }
 
-   void encodeInto(std::vector<Octet>& buffer, unsigned int boundary) const
+   // A length beyond the value's own is filled with zeros.
+   void encodeInto(std::vector<Octet>& buffer, unsigned int boundary, std::size_t length) const
    {
+      std::size_t const end =
+            buffer.size() + Encoder::paddingSizeInBytes(buffer.size(), boundary) + length;
       Coding::append(buffer, boundary, get());
+      if (buffer.size() < end) {
+         buffer.resize(end);
+      }
    }
 
    void decode(VariableLengthData const& data, unsigned int boundary)
    {
-      Coding::decode(data.data(), bytesLeft(data.size(), 0, boundary), decoded());
+      Coding::decode(data.data(), bytesLeft(data.size(), 0, atLeast(boundary)), decoded());
    }
 
    void decodeFrom(std::vector<Octet> const& buffer, std::size_t index, unsigned int boundary)
    {
-      unsigned long const length = bytesLeft(buffer.size(), index, boundary);
+      unsigned long const length = bytesLeft(buffer.size(), index, atLeast(boundary));
       Coding::decode(&buffer[index], length, decoded());
    }
 
@@ -97,6 +103,11 @@ public:
    }
 
 private:
+   static unsigned int atLeast(unsigned int boundary)
+   {
+      return boundary < Coding::boundary ? Coding::boundary : boundary;
+   }
+
    Value* _external; // the caller's
    Value _value;
 };

@@ -13,6 +13,9 @@ namespace {
 // So many elements of a record fit what it takes for the first one.
 std::size_t const AT_FIRST = 16;
 
+// Into so many runs an array is split, one element after another, before that is too dear.
+std::size_t const MOST_SPLIT = 64;
+
 // Lets a vector take so many more without a failure. It grows by doubling, and to a number at
 // least.
 template <class Vector>
@@ -66,11 +69,6 @@ void loadScalar(ScalarKind kind, ScalarCell* record, char const* in)
 #undef STORE_SCALAR
 #undef LOAD_SCALAR
 
-ScalarCodec const* codecOf(DataElement const* element)
-{
-   return element == nullptr ? nullptr : scalarCodecOf(*element);
-}
-
 } // namespace
 
 ElementSequence::ElementSequence(ElementSequence const& rhs) : ElementSequence()
@@ -86,7 +84,7 @@ ElementSequence::ElementSequence(ElementSequence const& rhs) : ElementSequence()
       _memory.reserve(scalars);
    }
    for (Run const& run : rhs._runs) {
-      if (run.records != nullptr) {
+      if (run.codec != nullptr) {
          appendScalars(*run.codec, run.records, 1, run.count);
       } else {
          for (std::size_t i = 0; i < run.count; ++i) {
@@ -132,7 +130,8 @@ void ElementSequence::makeRoomFor(std::size_t elements)
 // There is room for it.
 void ElementSequence::appendElement(DataElement* element, bool owned)
 {
-   addToRuns(codecOf(element), nullptr, 1, owned);
+   _runs.emplace_back(size(), owned);
+   joinLastRun();
    _elements.push_back(element);
 }
 
@@ -143,7 +142,8 @@ void ElementSequence::appendScalars(
       makeRoomFor(count);
       ScalarMemory::Place const place = _memory.take(count, count == 1 ? AT_FIRST : count);
       std::size_t const first = size();
-      addToRuns(&codec, place.records, place.count, false);
+      _runs.emplace_back(&codec, place.records, first, place.count);
+      joinLastRun();
       _elements.resize(first + place.count);
       codec.clone(sources, step, place.count, place.records, place.objects, &_elements[first]);
       sources += step * place.count;
@@ -151,20 +151,19 @@ void ElementSequence::appendScalars(
    }
 }
 
-// Called before the elements themselves are appended.
-void ElementSequence::addToRuns(
-      ScalarCodec const* codec, ScalarCell* records, std::size_t count, bool owned)
+// Makes the last run a part of the one before, if it may be.
+void ElementSequence::joinLastRun()
 {
-   _runs.emplace_back(codec, records, size(), count, owned);
-   if (_runs.size() > 1 && _runs.end()[-2].isFollowedBy(_runs.back())) {
-      _runs.pop_back();
-      _runs.back().count += count;
-      if (codec != nullptr) {
-         _stretches.back().bytes += count * codec->bytes;
-      }
+   Run const last = _runs.back();
+   if (_runs.size() == 1 || !_runs.end()[-2].isFollowedBy(last)) {
+      addToStretches(_runs.size() - 1);
       return;
    }
-   addToStretches(_runs.size() - 1);
+   _runs.pop_back();
+   _runs.back().count += last.count;
+   if (last.codec != nullptr) {
+      _stretches.back().bytes += last.bytes();
+   }
 }
 
 void ElementSequence::addToStretches(std::size_t index)
@@ -196,7 +195,7 @@ void ElementSequence::set(std::size_t index, DataElement const& element)
 {
    Runs::iterator const run = runAt(index);
    ScalarCodec const* const codec = scalarCodecOf(element);
-   if (run->records == nullptr || run->codec != codec) {
+   if (codec == nullptr || run->codec != codec) {
       makeRoomToSplit();
       replace(index, element.clone().release(), true);
       return;
@@ -222,10 +221,18 @@ void ElementSequence::makeRoomToSplit()
 // There is room for two more runs.
 void ElementSequence::replace(std::size_t index, DataElement* element, bool owned)
 {
-   Run const now(codecOf(element), nullptr, index, 1, owned);
+   Run const now(index, owned);
    Runs::iterator run = runAt(index);
    DataElement* const old = run->owned ? _elements[index] : nullptr;
    _elements[index] = element;
+   if (run->count > 1 && run->codec != nullptr && _runs.size() > MOST_SPLIT) {
+      // Its scalars stay where they are and are asked like all others.
+      *run = run->loose();
+      _hasLooseScalars = true;
+      joinNeighbours(run);
+      layOut();
+      run = runAt(index);
+   }
    if (!run->isLike(now)) {
       run = isolate(run, index - run->first);
       *run = now;
@@ -284,9 +291,11 @@ void ElementSequence::truncate(std::size_t size)
    layOut();
    ScalarCell const* used = nullptr;
    for (Run const& run : _runs) {
-      used = run.records != nullptr ? run.records + run.count : used;
+      used = run.codec != nullptr ? run.records + run.count : used;
    }
-   _memory.giveBackBehind(used);
+   if (!_hasLooseScalars) {
+      _memory.giveBackBehind(used);
+   }
 }
 
 // Deletes what the run owns from the element at the index on.
@@ -349,35 +358,19 @@ void ElementSequence::encodeScalars(Stretch const& stretch, std::vector<Octet>& 
       Encoder::insertBytes(buffer, stretch.bytes);
       char* const out = buffer.data() + buffer.size() - stretch.bytes;
       for (Run const* run = first; run != last; ++run) {
-         store(*run, out + run->offset);
+         if (run->count == 1) {
+            storeScalar(run->codec->kind, run->records, out + run->offset);
+         } else {
+            run->codec->storeAll(run->records, run->count, out + run->offset);
+         }
       }
       return;
    }
    for (Run const* run = first; run != last; ++run) {
       std::size_t const padding = paddingBefore(buffer.size(), run->codec->bytes);
       Encoder::insertBytes(buffer, padding + run->bytes());
-      storeMany(*run, buffer.data() + buffer.size() - run->bytes());
-   }
-}
-
-inline void ElementSequence::store(Run const& run, char* out) const
-{
-   if (run.records != nullptr && run.count == 1) {
-      storeScalar(run.codec->kind, run.records, out);
-   } else {
-      storeMany(run, out);
-   }
-}
-
-void ElementSequence::storeMany(Run const& run, char* out) const
-{
-   ScalarCodec const& codec = *run.codec;
-   if (run.records != nullptr) {
-      codec.storeAll(run.records, run.count, out);
-      return;
-   }
-   for (std::size_t i = 0; i < run.count; ++i) {
-      codec.storeAll(codec.recordOf(*_elements[run.first + i]), 1, out + i * codec.bytes);
+      char* const out = buffer.data() + buffer.size() - run->bytes();
+      run->codec->storeAll(run->records, run->count, out);
    }
 }
 
@@ -406,7 +399,11 @@ std::size_t ElementSequence::decodeScalars(
    if (stretch.fits(index) && index <= buffer.size() && buffer.size() - index >= stretch.bytes) {
       char const* const in = buffer.data() + index;
       for (Run const* run = first; run != last; ++run) {
-         load(*run, in + run->offset);
+         if (run->count == 1) {
+            loadScalar(run->codec->kind, run->records, in + run->offset);
+         } else {
+            run->codec->loadAll(run->records, run->count, in + run->offset);
+         }
       }
       return index + stretch.bytes;
    }
@@ -415,34 +412,15 @@ std::size_t ElementSequence::decodeScalars(
       index += paddingBefore(index, run->codec->bytes);
       std::size_t const left = index < buffer.size() ? buffer.size() - index : 0;
       std::size_t const count = std::min(run->count, left / run->codec->bytes);
-      loadMany(*run, count, buffer.data() + index);
+      if (count != 0) {
+         run->codec->loadAll(run->records, count, &buffer[index]);
+      }
       if (count < run->count) {
          Encoder::fail(L"Index is out of bounds");
       }
       index += run->bytes();
    }
    return index;
-}
-
-inline void ElementSequence::load(Run const& run, char const* in) const
-{
-   if (run.records != nullptr && run.count == 1) {
-      loadScalar(run.codec->kind, run.records, in);
-   } else {
-      loadMany(run, run.count, in);
-   }
-}
-
-void ElementSequence::loadMany(Run const& run, std::size_t count, char const* in) const
-{
-   ScalarCodec const& codec = *run.codec;
-   if (run.records != nullptr) {
-      codec.loadAll(run.records, count, in);
-      return;
-   }
-   for (std::size_t i = 0; i < count; ++i) {
-      codec.loadAll(codec.recordOf(*_elements[run.first + i]), 1, in + i * codec.bytes);
-   }
 }
 
 } // namespace rti1516e

@@ -10,7 +10,7 @@ namespace rti1516e {
 // Indices are not checked.
 class ElementSequence {
 public:
-   ElementSequence() {}
+   ElementSequence() : _hasLooseScalars(false) {}
 
    // Clones all elements, also those that rhs does not own.
    ElementSequence(ElementSequence const& rhs);
@@ -54,38 +54,55 @@ public:
 
 private:
    // Elements in a row that are treated alike. Scalars that the sequence has cloned when they were
-   // appended lie in its memory, their records in a row. Of all others the elements' own pointers
-   // are followed each time: the caller may destroy an element and make another one in its place.
+   // appended lie in its memory, their records in a row. All others are asked each time, and not
+   // before: the caller may make an element later than its place, and another one where it was.
    struct Run {
+      // Of scalars in the memory.
       Run(ScalarCodec const* inCodec, ScalarCell* inRecords, std::size_t inFirst,
-            std::size_t inCount, bool isOwned)
+            std::size_t inCount)
             : codec(inCodec),
               records(inRecords),
               first(inFirst),
               count(inCount),
               offset(0),
-              owned(isOwned)
+              owned(false)
       {
       }
 
-      // Whether both may be one. Those in the memory are appended in one piece or not at all.
+      // Of one other element.
+      Run(std::size_t inFirst, bool isOwned) : Run(nullptr, nullptr, inFirst, 1)
+      {
+         owned = isOwned;
+      }
+
+      // Whether both may be one.
       bool isLike(Run const& other) const
       {
-         return codec == other.codec && owned == other.owned && records == nullptr
-               && other.records == nullptr;
+         return codec == nullptr && other.codec == nullptr && owned == other.owned;
       }
 
       // Whether one that has just been appended may be a part of it.
       bool isFollowedBy(Run const& next) const
       {
-         bool const inARow = next.records != nullptr && records + count == next.records;
+         bool const inARow = next.codec != nullptr && records + count == next.records;
          return isLike(next) || (inARow && codec == next.codec);
+      }
+
+      // The same elements as others, which are asked.
+      Run loose() const
+      {
+         Run result(first, false);
+         result.count = count;
+         return result;
       }
 
       Run part(std::size_t begin, std::size_t number) const
       {
-         ScalarCell* const place = records == nullptr ? nullptr : records + begin;
-         return {codec, place, first + begin, number, owned};
+         Run result = *this;
+         result.records += codec != nullptr ? begin : 0;
+         result.first += begin;
+         result.count = number;
+         return result;
       }
 
       // Of scalars: they leave no gaps between them.
@@ -94,12 +111,12 @@ private:
          return count * codec->bytes;
       }
 
-      ScalarCodec const* codec; // null unless the elements are scalars of one class
-      ScalarCell* records;      // null unless they lie in the memory
+      ScalarCodec const* codec; // of scalars in the memory, else null
+      ScalarCell* records;      // of scalars
       std::size_t first;        // index of the first element
       std::size_t count;        // 1 or more
       std::size_t offset;       // of scalars: of their first byte in their stretch
-      bool owned;               // whether they are clones on the heap
+      bool owned;               // of others: whether they are clones on the heap
    };
    typedef std::vector<Run> Runs;
 
@@ -122,7 +139,7 @@ private:
    void appendScalars(
          ScalarCodec const& codec, ScalarCell const* sources, std::size_t step, std::size_t count);
    void appendElement(DataElement* element, bool owned);
-   void addToRuns(ScalarCodec const* codec, ScalarCell* records, std::size_t count, bool owned);
+   void joinLastRun();
    void replace(std::size_t index, DataElement* element, bool owned);
    void releaseFrom(std::size_t index, Run const& run);
 
@@ -139,15 +156,12 @@ private:
    void encodeScalars(Stretch const& stretch, std::vector<Octet>& buffer) const;
    std::size_t decodeScalars(
          Stretch const& stretch, std::vector<Octet> const& buffer, std::size_t index) const;
-   void store(Run const& run, char* out) const;
-   void storeMany(Run const& run, char* out) const;
-   void load(Run const& run, char const* in) const;
-   void loadMany(Run const& run, std::size_t count, char const* in) const;
 
    std::vector<DataElement*> _elements;
    Runs _runs;
    std::vector<Stretch> _stretches;
    ScalarMemory _memory;
+   bool _hasLooseScalars; // some in the memory are in no run of scalars
 };
 
 } // namespace rti1516e

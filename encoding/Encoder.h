@@ -388,6 +388,12 @@ ENCODER_FUNCTIONS(HLAunicodeString)
 #undef ENCODER_SCALAR_FUNCTIONS
 #undef ENCODER_FUNCTIONS
 
+// Reads four bytes, most significant first. The caller guarantees that they are there.
+inline int decodeInt(std::vector<char> const& buffer, unsigned long index)
+{
+   return decodeHLAinteger32BE(&buffer[index], 4);
+}
+
 } // namespace Encoder
 
 #endif

@@ -129,7 +129,7 @@ std::size_t HLAopaqueData::decodeFrom(std::vector<Octet> const& buffer, std::siz
    if (index > buffer.size() || buffer.size() - index < 4) {
       Encoder::fail(L"HLAopaqueData cannot decode (indata too short)");
    }
-   long const count = Encoder::decodeHLAinteger32BE(&buffer[index], 4);
+   long const count = Encoder::decodeInt(buffer, index);
    std::size_t const length = static_cast<std::size_t>(count);
    index += 4;
    if (length > buffer.size() - index) {

@@ -64,7 +64,7 @@ std::size_t HLAvariableArray::decodeFrom(std::vector<Octet> const& buffer, std::
    if (index > buffer.size() || buffer.size() - index < 4) {
       Encoder::fail(TOO_SHORT);
    }
-   long const count = Encoder::decodeHLAinteger32BE(&buffer[index], 4);
+   long const count = Encoder::decodeInt(buffer, index);
    index += 4;
    // An element takes one byte at least. A negative count is greater than any size.
    if (static_cast<std::size_t>(count) > buffer.size() - index) {

@@ -137,6 +137,32 @@ TEST(CompositeTest, holdsThousands)
    HLAvariableArray decoded((HLAinteger16BE()));
    decoded.decode(array.encode());
    EXPECT_EQ(hex(array.encode()), hex(decoded.encode()));
+   // Every second one the caller's, so that no row of scalars is left.
+   std::vector<HLAinteger16BE> mine(1000, HLAinteger16BE(7));
+   for (std::size_t i = 0; i < 1000; ++i) {
+      decoded.setElementPointer(2 * i, &mine[i]);
+      expected.replace(4 + 4 * i, 2, std::string("\0\x07", 2));
+   }
+   EXPECT_EQ(hex(expected.data(), expected.size()), hex(decoded.encode()));
+   decoded.decode(fromHex("00 00 00 03 00 01 00 02 00 03"));
+   decoded.addElement(HLAinteger16BE(4));
+   EXPECT_EQ("00 00 00 04 00 01 00 02 00 03 00 04", hex(decoded.encode()));
+   EXPECT_EQ(3, mine[1].get());
+}
+
+// A place in the caller's memory is not looked at before the element is used.
+TEST(CompositeTest, findsWhatTheCallerHasMadeSince)
+{
+   alignas(8) char place[sizeof(HLAoctet)] = {};
+   HLAfixedRecord record;
+   record.appendElementPointer(reinterpret_cast<DataElement*>(place));
+   new (place) HLAinteger16BE(1);
+   EXPECT_EQ("00 01", hex(record.encode()));
+   reinterpret_cast<HLAinteger16BE*>(place)->~HLAinteger16BE();
+   HLAoctet* const octet = new (place) HLAoctet;
+   EXPECT_EQ(1U, record.decodeFrom({2}, 0));
+   EXPECT_EQ("02", hex(record.encode()));
+   octet->~HLAoctet();
 }
 
 TEST(CompositeTest, takesFederatesOwnClasses)
@@ -151,6 +177,9 @@ TEST(CompositeTest, takesFederatesOwnClasses)
    array.addElement(WideInteger(2));
    array.addElement(HLAinteger32BE(9));
    EXPECT_EQ("00 00 00 03 01 00 00 00 00 00 00 02 00 00 00 09", hex(array.encode()));
+   HLAfixedArray packed(Packed(5), 2);
+   EXPECT_EQ("00 05 00 00 05 00", hex(packed.encode()));
+   EXPECT_EQ(OUT_OF_BOUNDS, failureOf([&] { packed.decodeFrom({0, 5, 0, 1}, 0); }));
 }
 
 TEST(VariantRecordTest, goesByTheDiscriminantsHash)

@@ -115,4 +115,25 @@ public:
    }
 };
 
+// A scalar anywhere, with a byte behind it.
+class Packed : public rti1516e::HLAinteger16BE {
+public:
+   using HLAinteger16BE::HLAinteger16BE;
+
+   std::auto_ptr<DataElement> clone() const override
+   {
+      return std::auto_ptr<DataElement>(new Packed(get()));
+   }
+
+   std::size_t getEncodedLength() const RTI_THROW((rti1516e::EncoderException)) override
+   {
+      return 3;
+   }
+
+   unsigned int getOctetBoundary() const override
+   {
+      return 1;
+   }
+};
+
 #endif
