@@ -1,8 +1,15 @@
 // A free piece of each size, for each thread.
 #include "api/SpareMemory.h"
 
-#include <dlfcn.h>
+#include "api/ThreadEnd.h"
+
 #include <new>
+
+#ifndef __APPLE__
+// There in a process with the address sanitizer, whatever else was built with it.
+extern "C" void __asan_poison_memory_region(void const volatile*, std::size_t)
+      __attribute__((weak));
+#endif
 
 namespace rti1516e {
 
@@ -10,7 +17,7 @@ namespace {
 
 std::size_t const SIZES = 5;
 
-// Pieces have the sizes that allocators give anyhow.
+// Pieces have the sizes that allocators have anyhow.
 constexpr std::size_t sizeOf(std::size_t index)
 {
    return 16 * index + 8;
@@ -34,26 +41,29 @@ struct Spares {
 
 thread_local Spares spares;
 
-struct AtEnd {
-   ~AtEnd()
-   {
-      for (void* const piece : spares.pieces) {
-         ::operator delete(piece);
-      }
-      spares = Spares();
-      spares.areGone = true;
+void freeAtEnd(void*)
+{
+   for (void* const piece : spares.pieces) {
+      ::operator delete(piece);
    }
-};
+   spares = Spares();
+   spares.areGone = true;
+}
+
+bool isWatched()
+{
+#ifdef __APPLE__
+   return false;
+#else
+   return &__asan_poison_memory_region != nullptr;
+#endif
+}
 
 // Not where the address sanitizer looks for uses of freed memory, the federate's among them.
 bool startKeeping()
 {
-   static bool const isWatched = dlsym(RTLD_DEFAULT, "__asan_poison_memory_region") != nullptr;
-   if (!isWatched && !spares.areGone) {
-      thread_local AtEnd atEnd;
-      static_cast<void>(atEnd);
-      spares.areKept = true;
-   }
+   static ThreadEnd const threadEnd(freeAtEnd);
+   spares.areKept = !isWatched() && !spares.areGone && threadEnd.await(&spares);
    return spares.areKept;
 }
 

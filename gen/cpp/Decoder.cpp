@@ -2,6 +2,7 @@
 #include "gen/cpp/Decoder.h"
 
 #include "api/StandardFactories.h"
+#include "api/ThreadEnd.h"
 #include "api/VariableLengthDataImplementation.h"
 #include "gen/cpp/MapWalk.h"
 #include "jvm/Assert.h"
@@ -145,16 +146,7 @@ std::size_t refill(ByteWrapper& buffer, ParameterHandleValueMap& values)
    return refill<ParameterHandle, makeParameterHandle>(buffer, values);
 }
 
-// Set when the thread's spares are gone. Callbacks may come after that, when objects of the
-// federate's end with the thread or with the process.
-thread_local bool hasEnded = false;
-
 struct Spares {
-   ~Spares()
-   {
-      hasEnded = true;
-   }
-
    std::unique_ptr<AttributeHandleValueMap> attributes;
    std::unique_ptr<ParameterHandleValueMap> parameters;
    std::unique_ptr<VariableLengthData> tag;
@@ -162,21 +154,31 @@ struct Spares {
    std::unique_ptr<LogicalTime> floatTime;
 };
 
-// What the thread keeps; null when it keeps nothing any more.
+thread_local Spares* kept;
+
+// A callback may come even after this, and begins anew.
+void freeAtEnd(void* ended)
+{
+   kept = nullptr;
+   delete static_cast<Spares*>(ended);
+}
+
+// What the thread keeps; null if it can't be freed at the thread's end.
 Spares* spares()
 {
-   if (hasEnded) {
-      return nullptr;
+   static ThreadEnd const threadEnd(freeAtEnd);
+   if (kept == nullptr) {
+      std::unique_ptr<Spares> made(new Spares);
+      kept = threadEnd.await(made.get()) ? made.release() : nullptr;
    }
-   thread_local Spares kept;
-   return &kept;
+   return kept;
 }
 
 template <class Value>
 std::unique_ptr<Value>* spareOf(std::unique_ptr<Value> Spares::*member)
 {
-   Spares* const kept = spares();
-   return kept != nullptr ? &(kept->*member) : nullptr;
+   Spares* const all = spares();
+   return all != nullptr ? &(all->*member) : nullptr;
 }
 
 std::unique_ptr<AttributeHandleValueMap>* spareOf(AttributeHandleValueMap*)
