@@ -203,7 +203,8 @@ VariableLengthData MessageRetractionHandle::encode() const
    std::unique_ptr<char[]> bytes(new char[length]);
    encode(bytes.get(), length);
    VariableLengthData data;
-   data.takeDataPointer(bytes.release(), length);
+   data.takeDataPointer(bytes.get(), length);
+   static_cast<void>(bytes.release()); // the block's
    return data;
 }
 

@@ -25,7 +25,8 @@ public:
          setDiscriminant(*rhs.discriminant);
       }
       for (Variants::value_type const& variant : rhs.variants) {
-         variants[variant.first] = cloneOf(*variant.second.element);
+         ElementSlot& slot = variants[variant.first]; // before there is a clone to lose
+         slot = cloneOf(*variant.second.element);
       }
    }
 

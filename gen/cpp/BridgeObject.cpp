@@ -57,6 +57,24 @@ jobject newRtiObject(JNIEnv* env, jclass type)
    return object;
 }
 
+// Releases a local reference, also when the federate's time factory throws.
+class Reference {
+public:
+   Reference(JNIEnv* env, jobject object) : _env(env), _object(object) {}
+
+   Reference(Reference const&) = delete;
+   Reference& operator=(Reference const&) = delete;
+
+   ~Reference()
+   {
+      _env->DeleteLocalRef(_object);
+   }
+
+private:
+   JNIEnv* _env;
+   jobject _object;
+};
+
 // Says why an answer has become no time and no interval.
 [[noreturn]] void throwUnreadable(FederateAmbassadorHelper const& helper, jbyteArray encoded)
 {
@@ -126,8 +144,8 @@ void RTIambassadorC::adoptTimeFactory()
 
 std::unique_ptr<LogicalTime> RTIambassadorC::returnLogicalTime(JNIEnv* env, jbyteArray encoded)
 {
+   Reference const reference(env, encoded);
    std::unique_ptr<LogicalTime> time = _helper.makeLogicalTime(env, encoded);
-   env->DeleteLocalRef(encoded);
    if (time == nullptr) {
       throwUnreadable(_helper, encoded);
    }
@@ -137,8 +155,8 @@ std::unique_ptr<LogicalTime> RTIambassadorC::returnLogicalTime(JNIEnv* env, jbyt
 std::unique_ptr<LogicalTimeInterval> RTIambassadorC::returnLogicalTimeInterval(
       JNIEnv* env, jbyteArray encoded)
 {
+   Reference const reference(env, encoded);
    std::unique_ptr<LogicalTimeInterval> interval = _helper.makeLogicalTimeInterval(env, encoded);
-   env->DeleteLocalRef(encoded);
    if (interval == nullptr) {
       throwUnreadable(_helper, encoded);
    }
