@@ -85,6 +85,8 @@ public:
    void decode(void*, size_t) LIST((InternalError, CouldNotDecode)) OVERRIDE;
 };
 
+class Later : public HLAinteger64Time {};
+
 class Factory : public LogicalTimeFactory {
 public:
    std::auto_ptr<LogicalTime> makeInitial() LIST((InternalError)) OVERRIDE;
@@ -224,6 +226,7 @@ void takePart(RTIambassador& rti, Callbacks& callbacks, wchar_t const* model)
    HLAinteger64Time time(-1);
    rti.queryLogicalTime(time);
    expect((time += HLAinteger64Interval(1)) == HLAinteger64Time(1), "time");
+   expect(Later() == Later(), "a federate's time over a standard one");
    std::auto_ptr<LogicalTimeFactory> const factory(rti.getTimeFactory());
    expect(factory->getName() == HLAinteger64TimeName, "factory");
    rti.resignFederationExecution(NO_ACTION);

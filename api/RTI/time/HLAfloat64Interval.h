@@ -85,19 +85,19 @@ public:
    /// The value as a number, without a word on it.
    operator double() const;
 
-#if __cplusplus >= 202002L
-   // This language version tries the operands in either order and finds both as good for two of the
-   // class. It must take no operand that converts to the class: a number is compared with a number.
-   template <std::same_as<HLAfloat64Interval> Same>
-   bool operator==(Same const& value) const
-   {
-      return *this == static_cast<LogicalTimeInterval const&>(value);
-   }
-#endif
-
 private:
    HLAfloat64IntervalImplementation* _implementation;
 };
+
+#if __cplusplus >= 202002L
+// This language version tries the operands in either order and finds both as good for two of the
+// class, or of a federate's class over it. A number is no operand: it is compared with a number.
+template <std::derived_from<HLAfloat64Interval> Left, std::derived_from<HLAfloat64Interval> Right>
+bool operator==(Left const& left, Right const& right)
+{
+   return left.operator==(static_cast<LogicalTimeInterval const&>(right));
+}
+#endif
 
 } // namespace rti1516e
 

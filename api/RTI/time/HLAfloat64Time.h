@@ -81,19 +81,19 @@ public:
    /// The value as a number, without a word on it.
    operator double() const;
 
-#if __cplusplus >= 202002L
-   // This language version tries the operands in either order and finds both as good for two of the
-   // class. It must take no operand that converts to the class: a number is compared with a number.
-   template <std::same_as<HLAfloat64Time> Same>
-   bool operator==(Same const& value) const
-   {
-      return *this == static_cast<LogicalTime const&>(value);
-   }
-#endif
-
 private:
    HLAfloat64TimeImplementation* _implementation;
 };
+
+#if __cplusplus >= 202002L
+// This language version tries the operands in either order and finds both as good for two of the
+// class, or of a federate's class over it. A number is no operand: it is compared with a number.
+template <std::derived_from<HLAfloat64Time> Left, std::derived_from<HLAfloat64Time> Right>
+bool operator==(Left const& left, Right const& right)
+{
+   return left.operator==(static_cast<LogicalTime const&>(right));
+}
+#endif
 
 } // namespace rti1516e
 
