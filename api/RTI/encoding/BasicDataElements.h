@@ -24,6 +24,9 @@ namespace rti1516e {
 /// greater than the number of bytes, the count's own included. A count that is let through although
 /// the characters are fewer gives a string of that length, with zeros at its end. The value is
 /// unchanged after an exception.
+///
+/// A federate's subclass may tell another boundary and length; what is encoded is the value itself,
+/// whatever an overridden get() returns.
 #define RTI_BASIC_DATA_ELEMENT(X, V)                                                               \
    class X##Implementation;                                                                        \
                                                                                                    \
