@@ -166,8 +166,8 @@ void freeAtEnd(void* ended)
 // What the thread keeps; null if it can't be freed at the thread's end.
 Spares* spares()
 {
-   static ThreadEnd const threadEnd(freeAtEnd);
    if (kept == nullptr) {
+      static ThreadEnd const threadEnd(freeAtEnd);
       std::unique_ptr<Spares> made(new Spares);
       kept = threadEnd.await(made.get()) ? made.release() : nullptr;
    }
