@@ -53,7 +53,7 @@ std::string classPath(std::string const& home)
    return path;
 }
 
-std::vector<GivenOption> givenOptions(int limit)
+std::vector<GivenOption> givenOptions()
 {
    std::vector<GivenOption> options;
    for (int i = 1; i <= optionVariables; ++i) {
@@ -64,7 +64,7 @@ std::vector<GivenOption> givenOptions(int limit)
    }
    std::ifstream file(optionFile);
    std::string line;
-   while (file.good() && static_cast<int>(options.size()) < limit) {
+   while (file.good() && ownOptions + static_cast<int>(options.size()) < optionLimit) {
       std::getline(file, line);
       if (!line.empty() && line[0] != '#') {
          options.push_back({line, optionFile});

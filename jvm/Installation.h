@@ -35,7 +35,9 @@ char const coreClass[] = "skerry/tarn1516e/RtiFactoryImpl";
 char const adapterClass[] = "skerry/tarn1516e/RTIambassadorC2007";
 char const nativesClass[] = "skerry/tarn1516e/FederateAmbassadorC2007";
 
-// CLASSPATH, and the home's jar if it is there.
+// The option's beginning, and what the library puts behind it: CLASSPATH, and the home's jar if it
+// is there.
+char const classPathProperty[] = "-Djava.class.path=";
 std::string classPath(std::string const& home);
 
 // A VM option that the user gives, and the variable or the file that it comes from.
@@ -47,8 +49,11 @@ char const optionVariable[] = "TARN1516_OPTION"; // and a number behind it
 int const optionVariables = 19;                  // the highest one that is read
 char const optionFile[] = "tarn.vmoptions";      // in the current directory
 
-// Those of the variables, then the lines of the file as long as there are fewer than `limit`.
-std::vector<GivenOption> givenOptions(int limit);
+int const optionLimit = 50; // entries that the option file may fill
+int const ownOptions = 5;   // entries of the library's own, which come first
+
+// Those of the variables, then the lines of the file as long as there is room.
+std::vector<GivenOption> givenOptions();
 
 } // namespace tarn1516e
 

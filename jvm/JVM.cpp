@@ -31,8 +31,6 @@ Trace trace; // set at each start-up
 jint (*getCreatedJavaVMs_FPtr)(JavaVM**, jsize, jsize*);
 jint (*createJavaVM_Fptr)(JavaVM**, void**, void*);
 
-int const optionLimit = 50; // entries that the option file may fill
-
 std::wstring jniResult(long status)
 {
    switch (status) {
@@ -166,7 +164,7 @@ std::string classPathOption(std::string const& home)
    std::string const jar = home + jarBelowHome;
    trace((fileExists(jar) ? "Tarn java libs found in '" : "No Tarn java libs found in '") + jar
          + "'");
-   std::string option = "-Djava.class.path=" + classPath(home);
+   std::string option = classPathProperty + classPath(home);
    trace("Setting classpath to '" + option + "'");
    return option;
 }
@@ -181,19 +179,23 @@ bool hasOption(JavaVMOption const* options, int count, char const* prefix)
    return false;
 }
 
-// An option that is not wanted stays as an empty text, so that the first five entries are always
-// the same five.
-void loadOptions(JavaVMOption* options, int& optionCount, int maxOptions, std::string const& home)
+// One that is not wanted stays as an empty text, so that these entries are always the same.
+void loadOptions(JavaVMOption* options, int& optionCount, std::string const& home)
 {
    auto const append = [&](std::string const& text) {
       options[optionCount++].optionString = allocString(text);
    };
-   append(classPathOption(home));
-   append("-DTarn.libraryName=rti1516");
-   append(isSet("TARN_ENABLEBUNDLING") ? "-DenableBundling=true" : "");
-   append(isSet("TARN_SINGLETHREAD") ? "-Dsinglethread=true" : "");
-   append(isSet("TARN_VERBOSEJNI") ? "-verbose:jni" : "");
-   for (GivenOption const& option : givenOptions(maxOptions - optionCount)) {
+   std::string const own[ownOptions] = {
+         classPathOption(home),
+         "-DTarn.libraryName=rti1516",
+         isSet("TARN_ENABLEBUNDLING") ? "-DenableBundling=true" : "",
+         isSet("TARN_SINGLETHREAD") ? "-Dsinglethread=true" : "",
+         isSet("TARN_VERBOSEJNI") ? "-verbose:jni" : "",
+   };
+   for (std::string const& text : own) {
+      append(text);
+   }
+   for (GivenOption const& option : givenOptions()) {
       append(option.text);
    }
    if (!hasOption(options, optionCount, "-Xss")) {
@@ -252,7 +254,7 @@ void JVM::create(std::string const& home)
 {
    JavaVMOption options[optionLimit + 1] = {}; // one more for the stack size
    int optionCount = 0;
-   loadOptions(options, optionCount, optionLimit, home);
+   loadOptions(options, optionCount, home);
 
    JavaVMInitArgs args;
    args.version = JNI_VERSION_1_2;

@@ -18,9 +18,6 @@ namespace {
 namespace text = tarn1516e::text;
 using tarn1516e::GivenOption;
 
-// The library has room for as many besides its own five.
-int const optionsGiven = 45;
-
 std::string const standInPackage = "skerry/tarn1516e/standin";
 
 // What stands in front of a text's first hole.
@@ -86,7 +83,7 @@ Diagnosis::Diagnosis(Request const& request, Report& report)
       : _request(request),
         _report(report),
         _home(findHome()),
-        _options(tarn1516e::givenOptions(optionsGiven)),
+        _options(tarn1516e::givenOptions()),
         _trial(request, _home)
 {
 }

@@ -1,5 +1,6 @@
 #include "tools/tarn1516e-check/Trial.h"
 
+#include "jvm/Installation.h"
 #include "jvm/StartTexts.h"
 #include "tools/tarn1516e-check/Json.h"
 #include "tools/tarn1516e-check/VmStart.h"
@@ -82,7 +83,7 @@ void startAsFederate(Request const& request, std::string const& home, Child::Tel
    setenv(text::traceVariable, "", 1);
    if (request.hostVm) {
       std::string const failure =
-            startVm(home, {"-Djava.class.path=" + request.hostClassPath}, true);
+            startVm(home, {tarn1516e::classPathProperty + request.hostClassPath}, true);
       if (!failure.empty()) {
          tell("hostFailure", failure);
          return;
