@@ -20,18 +20,6 @@ using tarn1516e::GivenOption;
 
 std::string const standInPackage = "skerry/tarn1516e/standin";
 
-// What stands in front of a text's first hole.
-std::string beginningOf(std::string const& pattern)
-{
-   return pattern.substr(0, pattern.find('%'));
-}
-
-bool isOf(std::string const& text, std::string const& pattern)
-{
-   std::string const beginning = beginningOf(pattern);
-   return text.compare(0, beginning.size(), beginning) == 0;
-}
-
 std::string dotted(std::string name)
 {
    std::replace(name.begin(), name.end(), '/', '.');

@@ -212,28 +212,35 @@ int Trial::status() const
    return _child.status();
 }
 
-std::vector<std::string> Trial::trace() const
+// The second line of a failure's text has no prefix in the trace either.
+std::vector<std::string> Trial::lines(bool ofTrace) const
 {
    std::string const prefix = text::tracePrefix;
    std::vector<std::string> lines;
-   for (std::string const& line : linesOf(_child.output())) {
+   bool isContinued = false;
+   for (std::string line : linesOf(_child.output())) {
       std::string::size_type const place = line.find(prefix);
-      if (place != std::string::npos) {
-         lines.push_back(line.substr(place + prefix.size()));
+      bool const isPrefixed = place != std::string::npos;
+      if (isPrefixed) {
+         line.erase(0, place + prefix.size());
+      }
+      bool const isTrace = isPrefixed || isContinued;
+      isContinued = isPrefixed && (isOf(line, text::noVm) || isOf(line, text::noClasses));
+      if (isTrace == ofTrace && (ofTrace || !line.empty())) {
+         lines.push_back(line);
       }
    }
    return lines;
 }
 
+std::vector<std::string> Trial::trace() const
+{
+   return lines(true);
+}
+
 std::vector<std::string> Trial::output() const
 {
-   std::vector<std::string> lines;
-   for (std::string const& line : linesOf(_child.output())) {
-      if (!line.empty() && line.find(text::tracePrefix) == std::string::npos) {
-         lines.push_back(line);
-      }
-   }
-   return lines;
+   return lines(false);
 }
 
 bool Trial::traced(std::string const& line) const
@@ -261,6 +268,17 @@ std::string Trial::outputLine(std::string const& part) const
       }
    }
    return std::string();
+}
+
+std::string beginningOf(std::string const& pattern)
+{
+   return pattern.substr(0, pattern.find('%'));
+}
+
+bool isOf(std::string const& text, std::string const& pattern)
+{
+   std::string const beginning = beginningOf(pattern);
+   return text.compare(0, beginning.size(), beginning) == 0;
 }
 
 // One after the other, since some options are only known behind another one that unlocks them.

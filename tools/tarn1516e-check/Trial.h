@@ -55,10 +55,16 @@ public:
    std::string outputLine(std::string const& part) const;
 
 private:
+   std::vector<std::string> lines(bool ofTrace) const;
+
    Request _request;
    std::string _home;
    Child _child;
 };
+
+// Of one of the library's texts: what stands in front of its first hole, and what begins so.
+std::string beginningOf(std::string const& pattern);
+bool isOf(std::string const& text, std::string const& pattern);
 
 // Of options that a VM has started with: those that it does not know, and passed over.
 std::vector<std::size_t> unknownOptions(
