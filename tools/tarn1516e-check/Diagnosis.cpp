@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cctype>
 #include <cstdlib>
+#include <sstream>
 
 namespace check {
 
@@ -18,6 +19,7 @@ namespace {
 namespace text = tarn1516e::text;
 using tarn1516e::GivenOption;
 
+std::string const remedyOfReplacement = "take that option away, and use CLASSPATH.";
 std::string const standInPackage = "skerry/tarn1516e/standin";
 
 std::string dotted(std::string name)
@@ -65,6 +67,20 @@ std::string aroundLibrary()
    return resolved(tarn1516e::homeCandidates(tarn1516e::libraryFile()).front());
 }
 
+// Of several class paths the VM takes the last one, and the library's own comes first.
+GivenOption lastClassPath(std::vector<GivenOption> options)
+{
+   char const variable[] = "_JAVA_OPTIONS"; // behind all others
+   std::istringstream words(valueOf(variable));
+   std::string word;
+   while (words >> word) {
+      options.push_back({word, variable});
+   }
+   auto const last = std::find_if(options.rbegin(), options.rend(),
+         [](GivenOption const& option) { return isOf(option.text, tarn1516e::classPathProperty); });
+   return last != options.rend() ? *last : GivenOption();
+}
+
 } // namespace
 
 Diagnosis::Diagnosis(Request const& request, Report& report)
@@ -72,6 +88,7 @@ Diagnosis::Diagnosis(Request const& request, Report& report)
         _report(report),
         _home(findHome()),
         _options(tarn1516e::givenOptions()),
+        _classPathOption(lastClassPath(_options)),
         _trial(request, _home)
 {
 }
@@ -371,21 +388,40 @@ bool Diagnosis::classPath()
          missing.push_back(element);
       }
    }
-   if (!missing.empty()) {
+   if (isReplaced()) {
+      _report.warn(replacement() + " replaces the class path", remedyOfReplacement);
+   } else if (!missing.empty()) {
       _report.warn("CLASSPATH leads nowhere: " + listed(missing),
             "correct CLASSPATH or unset it; only the java command itself replaces a '*' in it.");
    }
-   std::string const path = tarn1516e::classPath(_home);
+   std::string const path = classPathText();
    std::vector<std::string> const elements = elementsOf(path);
    bool const isHere = std::count(elements.begin(), elements.end(), "") != 0;
    return _report.found((path.empty() ? "empty" : path)
          + (isHere ? " (what is empty is the current directory)" : ""));
 }
 
+bool Diagnosis::isReplaced() const
+{
+   return !_classPathOption.text.empty();
+}
+
+std::string Diagnosis::replacement() const
+{
+   return "'" + visible(_classPathOption.text) + "' in " + _classPathOption.source;
+}
+
+std::string Diagnosis::classPathText() const
+{
+   return isReplaced()
+         ? _classPathOption.text.substr(std::string(tarn1516e::classPathProperty).size())
+         : tarn1516e::classPath(_home);
+}
+
 // The elements as Java takes them.
 std::vector<std::string> Diagnosis::classPathElements() const
 {
-   std::vector<std::string> elements = elementsOf(tarn1516e::classPath(_home));
+   std::vector<std::string> elements = elementsOf(classPathText());
    std::replace(elements.begin(), elements.end(), std::string(), std::string("."));
    return elements;
 }
@@ -409,7 +445,7 @@ bool Diagnosis::jar()
    _trial.waitForCore();
    std::string const element = elementWith(tarn1516e::coreClass);
    bool const isLocated = !_trial.traced(text::coreNotLocated);
-   std::string const reason = whyJavaCannotRead(_home);
+   std::string const reason = isReplaced() ? "" : whyJavaCannotRead(_home);
    if (!isLocated && !reason.empty()) {
       return _report.failed(
             "Java does not find " + below(tarn1516e::jarBelowHome) + ": the home's path " + reason,
@@ -431,6 +467,9 @@ void Diagnosis::warnOfJars()
          _report.warn(element + " can't be read", "let this user read it (chmod a+r).");
       }
    }
+   if (isReplaced()) {
+      return;
+   }
    for (std::string const name :
          {tarn1516e::coreClass, tarn1516e::adapterClass, tarn1516e::nativesClass}) {
       std::string const element = elementWith(name);
@@ -445,9 +484,7 @@ void Diagnosis::warnOfJars()
 
 bool Diagnosis::noJar()
 {
-   std::vector<std::string> candidates = classPathElements();
-   candidates.push_back(below(tarn1516e::jarBelowHome));
-   for (std::string const& element : candidates) {
+   for (std::string const& element : classPathElements()) {
       std::string const jar = resolved(element);
       if (!exists(jar) || isDirectory(jar) || jar.substr(jar.rfind('/') + 1) != "tarn1516e.jar") {
          continue;
@@ -459,6 +496,10 @@ bool Diagnosis::noJar()
                   + (readArchive(jar).isArchive ? " has no " + dotted(tarn1516e::coreClass)
                                                 : " is no jar"),
             "put the RTI's own tarn1516e.jar in its place.");
+   }
+   if (isReplaced()) {
+      return _report.failed(
+            "no tarn1516e.jar on the class path of " + replacement(), remedyOfReplacement);
    }
    std::string const jar = below(tarn1516e::jarBelowHome);
    return _report.failed("no tarn1516e.jar at " + jar + " and none on CLASSPATH",
@@ -507,6 +548,10 @@ bool Diagnosis::classNotLoaded(std::string const& className)
    std::string const line = _trial.outputLine(before);
    std::string const missing =
          line.empty() ? className : line.substr(line.find(before) + before.size());
+   if (isReplaced()) {
+      return _report.failed(dotted(missing) + " is missing on the class path of " + replacement(),
+            remedyOfReplacement);
+   }
    return _report.failed(dotted(missing) + " is missing",
          "replace tarn1516e.jar by a complete one, and name in CLASSPATH what it depends on.");
 }

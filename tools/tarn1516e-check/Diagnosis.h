@@ -51,6 +51,9 @@ private:
    std::string vmFile();
    std::string below(char const* path) const; // of the home, as it is shown
    std::string optionIn(std::vector<std::string> const& lines) const;
+   bool isReplaced() const;         // the class path, by an option
+   std::string replacement() const; // that option, as it is shown
+   std::string classPathText() const;
    std::vector<std::string> classPathElements() const;
    std::string elementWith(std::string const& className) const;
 
@@ -58,6 +61,7 @@ private:
    Report& _report;
    std::string _home; // with a '/' at its end; empty if there is none
    std::vector<tarn1516e::GivenOption> _options;
+   tarn1516e::GivenOption _classPathOption; // without a text if there is none
    Trial _trial;
 };
 
