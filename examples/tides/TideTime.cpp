@@ -131,7 +131,11 @@ void TideInterval::setToDifference(LogicalTime const& minuend, LogicalTime const
    TideTime to;
    to = minuend;
    from = subtrahend;
-   _minutes = to.minutes() - from.minutes();
+   long long difference;
+   if (__builtin_sub_overflow(to.minutes(), from.minutes(), &difference)) {
+      throw IllegalTimeArithmetic(L"Longer than any interval");
+   }
+   _minutes = difference;
 }
 
 std::wstring TideInterval::toString() const

@@ -2,15 +2,18 @@
 // expects, an attribute that is sent without need. Each federate is alone in what it does wrong.
 //
 //    tarn1516e-record -- troubles grant|exception|chatty [STEPS]
+#include "../Ambassador.h"
+#include "../Text.h"
+
 #include <RTI/NullFederateAmbassador.h>
 #include <RTI/RTI1516.h>
 #include <RTI/time/HLAinteger64Interval.h>
 #include <RTI/time/HLAinteger64Time.h>
 #include <RTI/time/HLAinteger64TimeFactory.h>
 
+#include <clocale>
 #include <cstdlib>
 #include <iostream>
-#include <memory>
 #include <string>
 
 using namespace rti1516e;
@@ -24,13 +27,9 @@ class Federate : public NullFederateAmbassador {
 public:
    explicit Federate(std::wstring const& name)
    {
-      RTIambassadorFactory factory;
-      rti.reset(factory.createRTIambassador().release());
       rti->connect(*this, HLA_EVOKED);
       try {
-         std::string const fom = HARBOUR_FOM;
-         rti->createFederationExecution(
-               federation, std::wstring(fom.begin(), fom.end()), HLAinteger64TimeName);
+         rti->createFederationExecution(federation, wide(HARBOUR_FOM), HLAinteger64TimeName);
       } catch (FederationExecutionAlreadyExists const&) {
          // Another one was first.
       }
@@ -40,31 +39,16 @@ public:
       position = rti->getAttributeHandle(ship, L"Position");
    }
 
-   ~Federate()
-   {
-      try {
-         rti->resignFederationExecution(CANCEL_THEN_DELETE_THEN_DIVEST);
-         rti->destroyFederationExecution(federation);
-      } catch (Exception const&) {
-         // Others are still there.
-      }
-      try {
-         rti->disconnect();
-      } catch (Exception const& e) {
-         std::wcerr << e.what() << std::endl;
-      }
-   }
-
    void timeAdvanceGrant(LogicalTime const&) override
    {
       isGranted = true;
    }
 
-   std::unique_ptr<RTIambassador> rti;
    ObjectClassHandle ship;
    AttributeHandle shipName;
    AttributeHandle position;
    bool isGranted = false;
+   Ambassador rti;
 };
 
 // The clock regulates and never advances, so that the ship is never granted what it asks for.
@@ -81,6 +65,8 @@ void missGrant(int steps)
       ship.rti->evokeMultipleCallbacks(0.01, 0.1);
    }
    std::wcout << (ship.isGranted ? L"granted" : L"gave up waiting") << std::endl;
+   ship.rti.leave(federation);
+   clock.rti.leave(federation);
 }
 
 // Only positions are published; the name is updated all the same, and what that throws is dropped.
@@ -100,6 +86,7 @@ void dropExceptions(int steps)
       }
    }
    std::wcout << L"all is well, it seems" << std::endl;
+   federate.rti.leave(federation);
 }
 
 // The name never changes, and goes with every position.
@@ -119,12 +106,15 @@ void chatter(int steps)
       watcher.rti->evokeMultipleCallbacks(0.0, 0.0);
    }
    std::wcout << L"sailed " << steps << L" steps" << std::endl;
+   federate.rti.leave(federation);
+   watcher.rti.leave(federation);
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
+   std::setlocale(LC_ALL, "");
    std::string const trouble = argc > 1 ? argv[1] : "";
    int const steps = argc > 2 ? std::atoi(argv[2]) : 50;
    try {
@@ -140,6 +130,8 @@ int main(int argc, char** argv)
       }
       return 0;
    } catch (Exception const& e) {
+      std::wcerr << e.what() << std::endl;
+   } catch (std::exception const& e) {
       std::wcerr << e.what() << std::endl;
    }
    return 1;
