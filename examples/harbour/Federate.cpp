@@ -89,16 +89,9 @@ int Federate::callbacks() const
 
 void Federate::declare()
 {
-   _shipClass = _rti->getObjectClassHandle(L"Ship");
-   _shipName = _rti->getAttributeHandle(_shipClass, L"Name");
-   _position = _rti->getAttributeHandle(_shipClass, L"Position");
-   _cargo = _rti->getAttributeHandle(_shipClass, L"Cargo");
-   AttributeHandleSet attributes;
-   attributes.insert(_shipName);
-   attributes.insert(_position);
-   attributes.insert(_cargo);
-   _rti->publishObjectClassAttributes(_shipClass, attributes);
-   _rti->subscribeObjectClassAttributes(_shipClass, attributes);
+   _shipClass.find(_rti);
+   _rti->publishObjectClassAttributes(_shipClass.handle, _shipClass.attributes());
+   _rti->subscribeObjectClassAttributes(_shipClass.handle, _shipClass.attributes());
 
    _signalClass = _rti->getInteractionClassHandle(L"Signal");
    _text = _rti->getParameterHandle(_signalClass, L"Text");
@@ -115,7 +108,7 @@ void Federate::registerShip()
    if (_nameState == REFUSED) {
       throw std::runtime_error("the ship's name is taken");
    }
-   _ship = _rti->registerObjectInstance(_shipClass, shipName);
+   _ship = _rti->registerObjectInstance(_shipClass.handle, shipName);
    _ledger.say(_name, L"registered " + _rti->getObjectInstanceName(_ship));
 }
 
@@ -147,16 +140,7 @@ void Federate::sendShip(long long time)
    _ledger.say(_name,
          L"sends its ship" + at(time) + L": x " + std::to_wstring(_sent.x) + L", "
                + std::to_wstring(_sent.cargo.size()) + L" pieces of cargo");
-   _rti->updateAttributeValues(_ship, encoded(), tagOf(tag), HLAinteger64Time(time));
-}
-
-AttributeHandleValueMap Federate::encoded() const
-{
-   AttributeHandleValueMap values;
-   values[_shipName] = encodeText(_sent.name);
-   values[_position] = encodePosition(_sent.x, _sent.y);
-   values[_cargo] = encodeCargo(_sent.cargo);
-   return values;
+   _rti->updateAttributeValues(_ship, _shipClass.encode(_sent), tagOf(tag), HLAinteger64Time(time));
 }
 
 void Federate::sendSignal(long long time)
@@ -244,7 +228,7 @@ void Federate::provideAttributeValueUpdate(
       ObjectInstanceHandle object, AttributeHandleSet const& wanted, VariableLengthData const& tag)
 {
    AttributeHandleValueMap values;
-   for (AttributeHandleValueMap::value_type const& value : encoded()) {
+   for (AttributeHandleValueMap::value_type const& value : _shipClass.encode(_sent)) {
       if (wanted.count(value.first) != 0) {
          values.insert(value);
       }
@@ -255,21 +239,12 @@ void Federate::provideAttributeValueUpdate(
    _inbox.happened(L"tells " + textOf(tag) + L" of its ship");
 }
 
-// An update may hold any of the attributes; of the others the last value stays.
 void Federate::reflectAttributeValues(ObjectInstanceHandle object,
       AttributeHandleValueMap const& values, VariableLengthData const& tag, OrderType sent,
       TransportationType, LogicalTime const& time, OrderType received, SupplementalReflectInfo)
 {
    Ship& ship = _others[object]; // known to callbacks alone, which come one after the other
-   for (AttributeHandleValueMap::value_type const& value : values) {
-      if (value.first == _shipName) {
-         ship.name = decodeText(value.second);
-      } else if (value.first == _position) {
-         decodePosition(value.second, ship.x, ship.y);
-      } else if (value.first == _cargo) {
-         ship.cargo = decodeCargo(value.second);
-      }
-   }
+   _shipClass.decode(values, ship);
    _ledger.arrived(textOf(tag), valueOf(time), ship);
    if (sent != TIMESTAMP || received != TIMESTAMP) {
       _ledger.differs(textOf(tag) + L" did not come in timestamp order");

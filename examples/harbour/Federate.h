@@ -43,7 +43,6 @@ private:
    void step(long long time);
    void sendShip(long long time);
    void sendSignal(long long time);
-   rti1516e::AttributeHandleValueMap encoded() const;
    void waitUntil(std::function<bool()> const& condition);
 
    // Callbacks.
@@ -97,8 +96,7 @@ private:
    rti1516e::CallbackModel const _model;
    Ledger& _ledger;
 
-   rti1516e::ObjectClassHandle _shipClass;
-   rti1516e::AttributeHandle _shipName, _position, _cargo;
+   ShipClass _shipClass;
    rti1516e::InteractionClassHandle _signalClass;
    rti1516e::ParameterHandle _text, _strength;
    rti1516e::ObjectInstanceHandle _ship;

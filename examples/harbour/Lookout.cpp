@@ -21,15 +21,8 @@ void Lookout::look(std::set<std::wstring> const& expected)
 {
    subscribe();
    waitUntil([&] { return _federates.size() == expected.size() && _ships.size() == 2; });
-   AttributeHandleSet attributes;
-   attributes.insert(_shipName);
-   attributes.insert(_position);
-   attributes.insert(_cargo);
-   _rti->requestAttributeValueUpdate(_shipClass, attributes, tagOf(_name));
-   attributes.clear();
-   attributes.insert(_federateName);
-   attributes.insert(_federateType);
-   _rti->requestAttributeValueUpdate(_federateClass, attributes, tagOf(_name));
+   _rti->requestAttributeValueUpdate(_shipClass.handle, _shipClass.attributes(), tagOf(_name));
+   _rti->requestAttributeValueUpdate(_federateClass, _federateAttributes, tagOf(_name));
 
    std::set<std::wstring> names;
    waitUntil([&] {
@@ -74,23 +67,15 @@ int Lookout::callbacks() const
 
 void Lookout::subscribe()
 {
-   _shipClass = _rti->getObjectClassHandle(L"Ship");
-   _shipName = _rti->getAttributeHandle(_shipClass, L"Name");
-   _position = _rti->getAttributeHandle(_shipClass, L"Position");
-   _cargo = _rti->getAttributeHandle(_shipClass, L"Cargo");
-   AttributeHandleSet attributes;
-   attributes.insert(_shipName);
-   attributes.insert(_position);
-   attributes.insert(_cargo);
-   _rti->subscribeObjectClassAttributes(_shipClass, attributes);
+   _shipClass.find(_rti);
+   _rti->subscribeObjectClassAttributes(_shipClass.handle, _shipClass.attributes());
 
    _federateClass = _rti->getObjectClassHandle(L"HLAmanager.HLAfederate");
    _federateName = _rti->getAttributeHandle(_federateClass, L"HLAfederateName");
    _federateType = _rti->getAttributeHandle(_federateClass, L"HLAfederateType");
-   attributes.clear();
-   attributes.insert(_federateName);
-   attributes.insert(_federateType);
-   _rti->subscribeObjectClassAttributes(_federateClass, attributes);
+   _federateAttributes.insert(_federateName);
+   _federateAttributes.insert(_federateType);
+   _rti->subscribeObjectClassAttributes(_federateClass, _federateAttributes);
 }
 
 void Lookout::waitUntil(std::function<bool()> const& condition)
@@ -118,7 +103,7 @@ void Lookout::discoverObjectInstance(
       ObjectInstanceHandle object, ObjectClassHandle objectClass, std::wstring const& name)
 {
    _inbox.happened(L"discovers " + name, [&] {
-      if (objectClass == _shipClass) {
+      if (objectClass == _shipClass.handle) {
          _ships[object] = Ship();
       } else {
          _federates[object] = Known();
@@ -143,26 +128,22 @@ void Lookout::reflectAttributeValues(ObjectInstanceHandle object,
 void Lookout::see(
       ObjectInstanceHandle object, AttributeHandleValueMap const& values, std::wstring const& tag)
 {
+   std::map<ObjectInstanceHandle, Ship>::iterator const ship = _ships.find(object);
+   if (ship != _ships.end()) {
+      _shipClass.decode(values, ship->second);
+      _ledger.arrived(tag, Ledger::noTime, ship->second);
+      _inbox.happened(L"sees " + ship->second.name);
+      return;
+   }
+   Known& federate = _federates[object];
    for (AttributeHandleValueMap::value_type const& value : values) {
-      if (value.first == _shipName) {
-         _ships[object].name = decodeText(value.second);
-      } else if (value.first == _position) {
-         decodePosition(value.second, _ships[object].x, _ships[object].y);
-      } else if (value.first == _cargo) {
-         _ships[object].cargo = decodeCargo(value.second);
-      } else if (value.first == _federateName) {
-         _federates[object].name = decodeText(value.second);
+      if (value.first == _federateName) {
+         federate.name = decodeText(value.second);
       } else if (value.first == _federateType) {
-         _federates[object].type = decodeText(value.second);
+         federate.type = decodeText(value.second);
       }
    }
-   if (_ships.count(object) != 0) {
-      _ledger.arrived(tag, Ledger::noTime, _ships[object]);
-      _inbox.happened(L"sees " + _ships[object].name);
-   } else {
-      _inbox.happened(
-            L"sees that " + _federates[object].name + L" is here, a " + _federates[object].type);
-   }
+   _inbox.happened(L"sees that " + federate.name + L" is here, a " + federate.type);
 }
 
 void Lookout::removeObjectInstance(

@@ -64,8 +64,10 @@ private:
    std::wstring const _name;
    Ledger& _ledger;
 
-   rti1516e::ObjectClassHandle _shipClass, _federateClass;
-   rti1516e::AttributeHandle _shipName, _position, _cargo, _federateName, _federateType;
+   ShipClass _shipClass;
+   rti1516e::ObjectClassHandle _federateClass;
+   rti1516e::AttributeHandleSet _federateAttributes;
+   rti1516e::AttributeHandle _federateName, _federateType;
 
    // What callbacks change.
    Inbox _inbox;

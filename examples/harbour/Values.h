@@ -2,7 +2,7 @@
 #ifndef harbour_Values_h
 #define harbour_Values_h
 
-#include <RTI/VariableLengthData.h>
+#include "../Ambassador.h"
 
 #include <string>
 #include <vector>
@@ -38,13 +38,24 @@ std::wstring textOf(rti1516e::VariableLengthData const& tag);
 // cargo an HLAvariableArray of HLAunicodeString, the strength an HLAinteger32BE. What can't be
 // decoded throws EncoderException.
 rti1516e::VariableLengthData encodeText(std::wstring const& text);
-rti1516e::VariableLengthData encodePosition(double x, double y);
-rti1516e::VariableLengthData encodeCargo(std::vector<std::wstring> const& cargo);
 rti1516e::VariableLengthData encodeStrength(int strength);
 
 std::wstring decodeText(rti1516e::VariableLengthData const& data);
-void decodePosition(rti1516e::VariableLengthData const& data, double& x, double& y);
-std::vector<std::wstring> decodeCargo(rti1516e::VariableLengthData const& data);
 int decodeStrength(rti1516e::VariableLengthData const& data);
+
+// Object class Ship, as one federate knows it.
+struct ShipClass {
+   // Asks for the handles.
+   void find(Ambassador& rti);
+
+   rti1516e::AttributeHandleSet attributes() const;
+   rti1516e::AttributeHandleValueMap encode(Ship const& ship) const;
+
+   // The values may be of any of the attributes; of the others the last value stays.
+   void decode(rti1516e::AttributeHandleValueMap const& values, Ship& ship) const;
+
+   rti1516e::ObjectClassHandle handle;
+   rti1516e::AttributeHandle name, position, cargo;
+};
 
 #endif
