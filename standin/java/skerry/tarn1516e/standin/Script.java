@@ -70,7 +70,7 @@ public final class Script {
    private static final FederateAmbassadorC2007 NATIVES = new FederateAmbassadorC2007();
 
    private static final Map<String, Deque<Answer>> _answers = new HashMap<>();
-   private static final Map<String, List<byte[]>> _bodies = new HashMap<>();
+   private static final Map<String, byte[]> _lastBodies = new HashMap<>();
    private static final List<String> _callOrder = new ArrayList<>();
    private static volatile boolean _all;
    private static volatile boolean _isRecording;
@@ -99,7 +99,7 @@ public final class Script {
       }
    }
 
-   /** Whether calls and their bodies are kept. */
+   /** Whether calls, and of each method the last body, are kept. */
    public static void record(boolean on) {
       synchronized (LOCK) {
          _isRecording = on;
@@ -110,7 +110,7 @@ public final class Script {
    /** Forgets the calls recorded so far; answers stay. */
    public static void forgetCalls() {
       synchronized (LOCK) {
-         _bodies.clear();
+         _lastBodies.clear();
          _callOrder.clear();
       }
    }
@@ -162,35 +162,11 @@ public final class Script {
       add(method, new Answer(null, makeThrowable(className, message), always));
    }
 
-   /** Drops the answers that wait for the method. */
-   public static void forgetAnswers(String method) {
-      synchronized (LOCK) {
-         _answers.remove(method);
-         _hasAnswers = !_answers.isEmpty();
-         update();
-      }
-   }
-
-   /** How often the method was called while recording was on. */
-   public static int calls(String method) {
-      synchronized (LOCK) {
-         List<byte[]> bodies = _bodies.get(method);
-         return bodies == null ? 0 : bodies.size();
-      }
-   }
-
-   /** The body of a recorded call, counted from 0; null if the method has none or there was no such
-       call. */
-   public static byte[] body(String method, int index) {
-      synchronized (LOCK) {
-         List<byte[]> bodies = _bodies.get(method);
-         return bodies == null || index < 0 || index >= bodies.size() ? null : bodies.get(index);
-      }
-   }
-
-   /** The body of the last recorded call. */
+   /** The body of the last recorded call; null if the method has none or there was no call. */
    public static byte[] lastBody(String method) {
-      return body(method, calls(method) - 1);
+      synchronized (LOCK) {
+         return _lastBodies.get(method);
+      }
    }
 
    /** How many calls of any method were recorded. */
@@ -210,16 +186,9 @@ public final class Script {
    /** Calls a native on this thread. The answer is null, or the class of what it threw, a line feed
        and the message. */
    public static String fire(String nativeName, byte[] frame) {
-      return fireMany(nativeName, frame, 1);
-   }
-
-   /** Calls a native that many times in a loop, until it throws; answers as `fire` does. */
-   public static String fireMany(String nativeName, byte[] frame, int times) {
       NativeTable.Native called = NativeTable.find(nativeName);
       try {
-         for (int i = 0; i < times; ++i) {
-            called.call(NATIVES, frame);
-         }
+         called.call(NATIVES, frame);
          return null;
       } catch (Throwable thrown) {
          return thrown.getClass().getName() + "\n" + thrown.getMessage();
@@ -260,7 +229,7 @@ public final class Script {
       Answer answer;
       synchronized (LOCK) {
          if (_isRecording) {
-            _bodies.computeIfAbsent(method, name -> new ArrayList<>()).add(body);
+            _lastBodies.put(method, body);
             _callOrder.add(method);
          }
          answer = next(method);
@@ -281,7 +250,9 @@ public final class Script {
       if (!answer._always) {
          waiting.removeFirst();
          if (waiting.isEmpty()) {
-            forgetAnswers(method);
+            _answers.remove(method);
+            _hasAnswers = !_answers.isEmpty();
+            update();
          }
       }
       return answer;
