@@ -18,6 +18,10 @@ install(FILES cmake/package/copyright ${PACKAGE_FOLDER}/changelog.gz
 
 # ---- The package
 
+set(TOOLS "and tarn1516e-check")
+if(TARGET tarn1516e-record)
+   set(TOOLS "tarn1516e-check and tarn1516e-record")
+endif()
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR})
 set(CPACK_PACKAGE_NAME tarn1516e)
@@ -26,8 +30,9 @@ set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "C++ interface of an IEEE 1516.1-2010 (HLA
 set(CPACK_PACKAGE_DESCRIPTION "\
 A federate links librti1516e, which forwards its services to the Java
 classes of the run-time infrastructure and brings back their callbacks.
-This package has the libraries, headers, documents, examples and
-tarn1516e-check; the Java classes are a product of their own.")
+This package has the libraries, headers, documents, examples,
+${TOOLS};
+the Java classes are a product of their own.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /opt/tarn1516e)
 set(CPACK_COMPONENTS_ALL runtime development documents package)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
