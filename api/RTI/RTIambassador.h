@@ -48,7 +48,10 @@ class FederateAmbassador;
 /// encoded form.
 ///
 /// Services may be called from any thread, from several at once, and from inside a callback if they
-/// do not list CallNotAllowedFromWithinCallback. No lock is taken on this side.
+/// do not list CallNotAllowedFromWithinCallback. No lock is taken on this side. But connect is for
+/// one thread at a time in the whole process, also for different ambassadors: of two at the same
+/// moment one may never get a callback. connect and joinFederationExecution come before other
+/// threads use the ambassador.
 class RTI_EXPORT RTIambassador {
 protected:
    RTIambassador();

@@ -22,7 +22,7 @@ public:
    ///
    /// The first call of a process finds and starts the Java VM, or joins the one that is there.
    /// That is done on the caller's thread and takes its time. RTIinternalError tells why it failed;
-   /// the next call then starts over.
+   /// the next call then starts over, but for a VM that is there.
    std::auto_ptr<RTIambassador> createRTIambassador() RTI_THROW((RTIinternalError));
 };
 

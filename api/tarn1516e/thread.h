@@ -12,7 +12,7 @@ RTI_BEGIN_INTERFACE
 namespace tarn1516e {
 
 /// A thread that runs one function. The object must outlive it: call join() before the object goes.
-/// Nothing throws but std::bad_alloc from the constructor.
+/// Nothing throws but std::bad_alloc from the constructor and from get_id().
 class RTI_EXPORT thread {
 public:
    class id;
@@ -101,7 +101,8 @@ RTI_EXPORT std::wostream& operator<<(std::wostream& stream, thread::id const& rh
 
 namespace this_thread {
 
-/// The number of the calling thread, also where no thread object stands for it.
+/// The number of the calling thread, also where no thread object stands for it. Throws nothing but
+/// std::bad_alloc.
 RTI_EXPORT thread::id get_id();
 
 } // namespace this_thread
