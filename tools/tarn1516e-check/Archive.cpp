@@ -2,7 +2,7 @@
 #include "tools/tarn1516e-check/Archive.h"
 
 #include <fstream>
-#include <iterator>
+#include <sstream>
 
 namespace check {
 
@@ -60,7 +60,9 @@ private:
    static std::string load(std::string const& path)
    {
       std::ifstream file(path, std::ios::binary);
-      return std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+      std::ostringstream content;
+      content << file.rdbuf();
+      return content.str();
    }
 
    std::string _content;
