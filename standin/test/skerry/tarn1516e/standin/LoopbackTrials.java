@@ -470,7 +470,7 @@ public final class LoopbackTrials {
             "b: federationRestoreBegun | initiateFederateRestore x B 2 2"
                   + " | federationRestoreStatusResponse [1:1:5, 2:2:4] | federationNotRestored 1");
       scene("immediate callbacks", "c connect immediate", "c disableCallbacks",
-            "c listFederationExecutions", "c:", "c enableCallbacks",
+            "c listFederationExecutions", "c evokeCallback 0.05", "c:", "c enableCallbacks",
             "c: reportFederationExecutions [{F}:HLAinteger64Time]", "c disconnect",
             "c evokeCallback 0 ! RTIinternalError");
       scene("resignation", SHARE, "a resignFederationExecution 5 ! FederateOwnsAttributes",
