@@ -1,5 +1,6 @@
 // What only a VM that is none shows: which names the library asks for, in which order ladders are
 // climbed, and how often native memory is taken.
+#include "tests/api/Bytes.h"
 #include "tests/bridge/Costs.h"
 #include "tests/bridge/Rows.h"
 #include "tests/support/BareVm.h"
@@ -9,6 +10,7 @@
 #include <RTI/time/HLAfloat64Time.h>
 
 #include <csignal>
+#include <fstream>
 #include <functional>
 #include <gtest/gtest.h>
 #include <map>
@@ -16,6 +18,23 @@
 
 using namespace rti1516e;
 using namespace net;
+
+namespace {
+
+// The bytes that the lines of an example in the document of the wire format begin with.
+std::string documented(std::string const& example)
+{
+   std::ifstream document(NET_WIRE_FORMAT);
+   std::string line, digits;
+   while (std::getline(document, line) && line != "```bytes " + example) {
+   }
+   while (std::getline(document, line) && line != "```") {
+      digits += line.substr(0, line.find("  ")) + " ";
+   }
+   return bytesOf(fromHex(digits));
+}
+
+} // namespace
 
 TEST(Bare, namesAndSignaturesAreThoseOfTheList)
 {
@@ -155,6 +174,28 @@ TEST(Bare, callbacksComeAlsoWhileAThreadEnds)
    ASSERT_EQ(3u, received.size());
    EXPECT_EQ(3, federate.record.calls);
    EXPECT_EQ(received[0], received[2]);
+}
+
+TEST(Bare, theDocumentsExamplesAreWhatIsSentAndReceived)
+{
+   Federate federate;
+   ObjectInstanceHandle const object =
+         federate.rti->decodeObjectInstanceHandle(fromHex("00 00 01 02"));
+   AttributeHandle const attribute = federate.rti->decodeAttributeHandle(fromHex("00 00 00 07"));
+   AttributeHandleValueMap const values{{attribute, fromHex("CA FE")}};
+   federate.rti->updateAttributeValues(object, values, {"go", 2});
+   java::Call const call = java::takeCalls().back();
+   EXPECT_EQ("updateAttributeValues_OIH_AHVM_BX", call.method);
+   EXPECT_EQ(hex(documented("service")), hex(call.body));
+
+   std::string const callback = documented("callback");
+   std::string const fields = callback.substr(8, callback.size() - 12);
+   EXPECT_EQ(hex(frame(1, fields)), hex(callback));
+   federate.fire("reflectAttributeValues_OIH_AHVM_BX_OT_TTH_FASRI_Native", fields);
+   SupplementalReflectInfo const info(federate.rti->decodeFederateHandle(fromHex("00 00 00 03")));
+   EXPECT_EQ((std::vector<std::string>{wire(object).bytes, wire(values).bytes, block("go").bytes,
+                   wire(RECEIVE).bytes, wire(RELIABLE).bytes, wire(info).bytes}),
+         federate.record.arguments);
 }
 
 TEST(DeathTest, javaMethodMissing)

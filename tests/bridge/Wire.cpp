@@ -1,6 +1,8 @@
 #include "tests/bridge/Wire.h"
 
-#include <cstdio>
+#include "tests/api/Bytes.h"
+
+#include <algorithm>
 #include <cstring>
 
 using namespace rti1516e;
@@ -63,13 +65,8 @@ std::string frame(int handle, std::string const& fields)
 
 std::string hex(std::string const& bytes)
 {
-   std::string text;
-   for (char const byte : bytes.substr(0, 400)) {
-      char digits[4];
-      std::snprintf(digits, sizeof digits, "%02X ", static_cast<unsigned char>(byte));
-      text += digits;
-   }
-   return text + (bytes.size() > 400 ? "... " : "") + std::to_string(bytes.size()) + " bytes";
+   return ::hex(bytes.data(), std::min<std::size_t>(bytes.size(), 400))
+         + (bytes.size() > 400 ? " ... " : " ") + std::to_string(bytes.size()) + " bytes";
 }
 
 Wire wire(bool value)
