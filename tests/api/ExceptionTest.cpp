@@ -35,26 +35,22 @@ std::wstring messageInOwnClass(A exception)
 
 struct ExceptionRow {
    std::type_index type;
-   bool derivesFromException;
+   std::wstring text;
    std::wstring inBase;
    std::wstring inOwnClass;
 };
 
 #define EXCEPTION_ROW(A)                                                                           \
-   {typeid(A), std::is_base_of<Exception, A>::value, messageInBase<A>(L"of " #A),                  \
-         messageInOwnClass(A(L"of " #A))},
-#define EXCEPTION_TEXT(A) L"of " #A,
+   {typeid(A), L"of " #A, messageInBase<A>(L"of " #A), messageInOwnClass(A(L"of " #A))},
 
 TEST(ExceptionTest, keepsItsMessageAndIsCaughtByClassAndByBase)
 {
    std::vector<ExceptionRow> const rows = {RTI_FOR_EACH_EXCEPTION(EXCEPTION_ROW)};
-   std::vector<std::wstring> const texts = {RTI_FOR_EACH_EXCEPTION(EXCEPTION_TEXT)};
    std::set<std::type_index> types;
-   for (std::vector<ExceptionRow>::size_type i = 0; i != rows.size(); ++i) {
-      types.insert(rows[i].type);
-      EXPECT_TRUE(rows[i].derivesFromException) << texts[i];
-      EXPECT_EQ(texts[i], rows[i].inBase);
-      EXPECT_EQ(texts[i], rows[i].inOwnClass);
+   for (ExceptionRow const& row : rows) {
+      types.insert(row.type);
+      EXPECT_EQ(row.text, row.inBase);
+      EXPECT_EQ(row.text, row.inOwnClass);
    }
    EXPECT_EQ(122u, types.size());
 }

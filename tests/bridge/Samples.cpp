@@ -179,30 +179,18 @@ Samples<Enumeration> enumerators(int first, int last)
    return all;
 }
 
-Samples<TransportationType> make(TransportationType*)
-{
-   return enumerators<TransportationType>(1, 2);
-}
+#define MAKE_ENUMERATORS(Enumeration, first, last)                                                 \
+   Samples<Enumeration> make(Enumeration*)                                                         \
+   {                                                                                               \
+      return enumerators<Enumeration>(first, last);                                                \
+   }
 
-Samples<OrderType> make(OrderType*)
-{
-   return enumerators<OrderType>(1, 2);
-}
-
-Samples<ResignAction> make(ResignAction*)
-{
-   return enumerators<ResignAction>(0, 5);
-}
-
-Samples<ServiceGroup> make(ServiceGroup*)
-{
-   return enumerators<ServiceGroup>(0, 6);
-}
-
-Samples<CallbackModel> make(CallbackModel*)
-{
-   return enumerators<CallbackModel>(0, 1);
-}
+MAKE_ENUMERATORS(TransportationType, 1, 2)
+MAKE_ENUMERATORS(OrderType, 1, 2)
+MAKE_ENUMERATORS(ResignAction, 0, 5)
+MAKE_ENUMERATORS(ServiceGroup, 0, 6)
+MAKE_ENUMERATORS(CallbackModel, 0, 1)
+#undef MAKE_ENUMERATORS
 
 // ---- What callbacks bring
 

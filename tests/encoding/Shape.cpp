@@ -18,7 +18,6 @@ using namespace rti1516e;
 namespace {
 
 // ---- Leaves
-// --------------------------------------------------------------------------------------
 
 template <class Element, class Value>
 struct Access {
@@ -120,7 +119,6 @@ LeafClass const LEAVES[] = {
 std::size_t const LEAF_COUNT = sizeof LEAVES / sizeof LEAVES[0];
 
 // ---- Bytes
-// ---------------------------------------------------------------------------------------
 
 std::size_t aligned(std::size_t index, std::size_t boundary)
 {
@@ -254,7 +252,6 @@ void decodeCount(Shape& shape, std::string const& buffer, std::size_t& index)
 }
 
 // ---- Changes
-// -------------------------------------------------------------------------------------
 
 template <class Element>
 Element& own(Shape const& shape)
@@ -405,7 +402,6 @@ void changeRecord(Shape& shape, Random& random, int depth)
 }
 
 // ---- Making
-// --------------------------------------------------------------------------------------
 
 void makeOwn(Shape& shape, Random& random, int depth)
 {

@@ -55,7 +55,6 @@ void pluginCalls(RTIambassador& rti)
 #endif
 
 // ---- Classes of a federate's own, declared only: overrides that repeat the lists of their bases
-// --
 
 class Between : public RTIambassador { // remains abstract
 public:

@@ -55,12 +55,20 @@ public:
       return string(std::wstring(content.begin(), content.end()));
    }
 
+   template <class Array, class Element, class Content>
+   jvalue array(Array (JNIEnv::*make)(jsize),
+         void (JNIEnv::*set)(Array, jsize, jsize, Element const*), Content const& content) const
+   {
+      std::vector<Element> const elements(content.begin(), content.end());
+      jsize const size = static_cast<jsize>(elements.size());
+      Array const made = checked((env->*make)(size));
+      (env->*set)(made, 0, size, elements.data());
+      return object(made);
+   }
+
    jvalue bytes(std::string const& content) const
    {
-      jsize const size = static_cast<jsize>(content.size());
-      jbyteArray const array = checked(env->NewByteArray(size));
-      env->SetByteArrayRegion(array, 0, size, reinterpret_cast<jbyte const*>(content.data()));
-      return object(array);
+      return array(&JNIEnv::NewByteArray, &JNIEnv::SetByteArrayRegion, content);
    }
 
    static jvalue object(jobject reference)
@@ -122,25 +130,16 @@ public:
 jvalue valueOf(Visit const& java, Answer const& answer)
 {
    std::vector<std::int64_t> const& numbers = answer.numbers;
-   jsize const size = static_cast<jsize>(numbers.size());
    jvalue value;
    switch (answer.type) {
    case 'S':
       return java.string(answer.text);
    case 'B':
       return java.bytes(answer.bytes);
-   case 'i': {
-      std::vector<jint> const elements(numbers.begin(), numbers.end());
-      jintArray const array = java.env->NewIntArray(size);
-      java.env->SetIntArrayRegion(array, 0, size, elements.data());
-      return Visit::object(array);
-   }
-   case 'j': {
-      std::vector<jlong> const elements(numbers.begin(), numbers.end());
-      jlongArray const array = java.env->NewLongArray(size);
-      java.env->SetLongArrayRegion(array, 0, size, elements.data());
-      return Visit::object(array);
-   }
+   case 'i':
+      return java.array(&JNIEnv::NewIntArray, &JNIEnv::SetIntArrayRegion, numbers);
+   case 'j':
+      return java.array(&JNIEnv::NewLongArray, &JNIEnv::SetLongArrayRegion, numbers);
    case 'Z':
       return Visit::flag(numbers.at(0) != 0);
    default: // the rest lies in the number's low bits
