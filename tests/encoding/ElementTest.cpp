@@ -76,50 +76,58 @@ void check(char const* name, Value const original, char const* bytes, Integer64 
    checkBinding<Element>(original, replaced);
 }
 
-#define ROW(Name, Value, value, bytes, hash) check<Name, Value>(#Name, value, bytes, hash);
+#define ROW(Name, Value, value, bytes, hash) check<Name, Value>(#Name, value, bytes, hash)
 
 // Each class with a value whose bytes all differ, and a negative one where there are such. Hashes
 // go by the value, widened to 64 bits.
-TEST(ElementTest, hasValueBytesAndHash){
-      ROW(HLAASCIIchar, char, 'A', "41", 0x41 ^ 0xDEADBEEFLL) ROW(HLAASCIIchar, char, '\xFF', "FF",
-            -3735928560) ROW(HLAbyte, char, '\x7F', "7F", 0x7F ^ 0xDEADBEEFLL) ROW(HLAoctet, char,
-            '\xFE', "FE", -2 ^ 0xDEADBEEFLL) ROW(HLAboolean, bool, true, "00 00 00 01",
-            3735928558) ROW(HLAboolean, bool, false, "00 00 00 00", 3735928559) ROW(HLAunicodeChar,
-            wchar_t, L'\x20AC', "20 AC", 0x20AC ^ 0xDEADBEEFLL) ROW(HLAinteger16BE, short, 0x0102,
-            "01 02", 0x0102 ^ 0xDEADBEEFLL) ROW(HLAinteger16LE, short, 0x0102, "02 01",
-            0x0102 ^ 0xDEADBEEFLL) ROW(HLAinteger16BE, short, -2, "FF FE", -2 ^ 0xDEADBEEFLL)
-            ROW(HLAinteger16LE, short, -2, "FE FF", -2 ^ 0xDEADBEEFLL) ROW(HLAinteger32BE, int,
-                  0x01020304, "01 02 03 04", 0x01020304 ^ 0xDEADBEEFLL) ROW(HLAinteger32LE, int,
-                  0x01020304, "04 03 02 01", 0x01020304 ^ 0xDEADBEEFLL) ROW(HLAinteger32BE, int, -1,
-                  "FF FF FF FF", -3735928560) ROW(HLAinteger32LE, int, -2, "FE FF FF FF",
-                  -2 ^ 0xDEADBEEFLL) ROW(HLAinteger64BE, Integer64, 0x0102030405060708,
-                  "01 02 03 04 05 06 07 08", 0x0102030405060708 ^ 0xDEADBEEFLL) ROW(HLAinteger64LE,
-                  Integer64, 0x0102030405060708, "08 07 06 05 04 03 02 01",
-                  0x0102030405060708 ^ 0xDEADBEEFLL) ROW(HLAinteger64BE, Integer64, -2,
-                  "FF FF FF FF FF FF FF FE", -2 ^ 0xDEADBEEFLL) ROW(HLAfloat32BE, float, 1.1F,
-                  "3F 8C CC CD", 3735928558) ROW(HLAfloat32LE, float, -1.1F, "CD CC 8C BF",
-                  -3735928560) ROW(HLAfloat64BE, double, 1.1, "3F F1 99 99 99 99 99 9A", 3735928558)
-                  ROW(HLAfloat64LE, double, -1.1, "9A 99 99 99 99 99 F1 BF", -3735928560)
-      // Where no integer of 64 bits holds the value.
-      ROW(HLAfloat64BE, double, -TWO_63, "C3 E0 00 00 00 00 00 00", INT64_MIN ^ 0xDEADBEEFLL) ROW(
-            HLAfloat64BE, double, std::nextafter(TWO_63, 0), "43 DF FF FF FF FF FF FF",
-            0x7FFFFFFFFFFFFC00 ^ 0xDEADBEEFLL) ROW(HLAfloat64BE, double, TWO_63,
-            "43 E0 00 00 00 00 00 00", INT64_MIN ^ 0xDEADBEEFLL) ROW(HLAfloat64BE, double,
-            TWO_63 + 2048, "43 E0 00 00 00 00 00 01", (INT64_MIN + 2048) ^ 0xDEADBEEFLL)
-            ROW(HLAfloat64BE, double, std::nextafter(2 * TWO_63, 0), "43 EF FF FF FF FF FF FF",
-                  -2048 ^ 0xDEADBEEFLL) ROW(HLAfloat64BE, double, 2 * TWO_63,
-                  "43 F0 00 00 00 00 00 00", -1 ^ 0xDEADBEEFLL) ROW(HLAfloat64BE, double, INFINITE,
-                  "7F F0 00 00 00 00 00 00", -1 ^ 0xDEADBEEFLL) ROW(HLAfloat64BE, double, -INFINITE,
-                  "FF F0 00 00 00 00 00 00", INT64_MIN ^ 0xDEADBEEFLL) ROW(HLAoctetPairBE,
-                  OctetPair, OctetPair('\x41', '\x42'), "41 42", 3735945133) ROW(HLAoctetPairLE,
-                  OctetPair, OctetPair('\x41', '\xFF'), "FF 41", (0x41 * 256 - 1) ^ 0xDEADBEEFLL)
-                  ROW(HLAASCIIstring, std::string, "AB", "00 00 00 02 41 42", 3766795652629461688)
-                        ROW(HLAASCIIstring, std::string, "\xFF", "00 00 00 01 FF",
-                              2166136261LL * 16777619 ^ -1) ROW(HLAASCIIstring, std::string,
-                              std::string(), "00 00 00 00", 2166136261) ROW(HLAunicodeString,
-                              std::wstring, L"AB", "00 00 00 02 00 41 00 42", 3766795652629461688)
-                              ROW(HLAunicodeString, std::wstring, L"\x20AC", "00 00 00 01 20 AC",
-                                    2166136261LL * 16777619 ^ 0x20AC)}
+TEST(ElementTest, hasValueBytesAndHash)
+{
+   ROW(HLAASCIIchar, char, 'A', "41", 0x41 ^ 0xDEADBEEFLL);
+   ROW(HLAASCIIchar, char, '\xFF', "FF", -3735928560);
+   ROW(HLAbyte, char, '\x7F', "7F", 0x7F ^ 0xDEADBEEFLL);
+   ROW(HLAoctet, char, '\xFE', "FE", -2 ^ 0xDEADBEEFLL);
+   ROW(HLAboolean, bool, true, "00 00 00 01", 3735928558);
+   ROW(HLAboolean, bool, false, "00 00 00 00", 3735928559);
+   ROW(HLAunicodeChar, wchar_t, L'\x20AC', "20 AC", 0x20AC ^ 0xDEADBEEFLL);
+   ROW(HLAinteger16BE, short, 0x0102, "01 02", 0x0102 ^ 0xDEADBEEFLL);
+   ROW(HLAinteger16LE, short, 0x0102, "02 01", 0x0102 ^ 0xDEADBEEFLL);
+   ROW(HLAinteger16BE, short, -2, "FF FE", -2 ^ 0xDEADBEEFLL);
+   ROW(HLAinteger16LE, short, -2, "FE FF", -2 ^ 0xDEADBEEFLL);
+   ROW(HLAinteger32BE, int, 0x01020304, "01 02 03 04", 0x01020304 ^ 0xDEADBEEFLL);
+   ROW(HLAinteger32LE, int, 0x01020304, "04 03 02 01", 0x01020304 ^ 0xDEADBEEFLL);
+   ROW(HLAinteger32BE, int, -1, "FF FF FF FF", -3735928560);
+   ROW(HLAinteger32LE, int, -2, "FE FF FF FF", -2 ^ 0xDEADBEEFLL);
+   ROW(HLAinteger64BE, Integer64, 0x0102030405060708, "01 02 03 04 05 06 07 08",
+         0x0102030405060708 ^ 0xDEADBEEFLL);
+   ROW(HLAinteger64LE, Integer64, 0x0102030405060708, "08 07 06 05 04 03 02 01",
+         0x0102030405060708 ^ 0xDEADBEEFLL);
+   ROW(HLAinteger64BE, Integer64, -2, "FF FF FF FF FF FF FF FE", -2 ^ 0xDEADBEEFLL);
+   ROW(HLAfloat32BE, float, 1.1F, "3F 8C CC CD", 3735928558);
+   ROW(HLAfloat32LE, float, -1.1F, "CD CC 8C BF", -3735928560);
+   ROW(HLAfloat64BE, double, 1.1, "3F F1 99 99 99 99 99 9A", 3735928558);
+   ROW(HLAfloat64LE, double, -1.1, "9A 99 99 99 99 99 F1 BF", -3735928560);
+   // Where no integer of 64 bits holds the value.
+   ROW(HLAfloat64BE, double, -TWO_63, "C3 E0 00 00 00 00 00 00", INT64_MIN ^ 0xDEADBEEFLL);
+   ROW(HLAfloat64BE, double, std::nextafter(TWO_63, 0), "43 DF FF FF FF FF FF FF",
+         0x7FFFFFFFFFFFFC00 ^ 0xDEADBEEFLL);
+   ROW(HLAfloat64BE, double, TWO_63, "43 E0 00 00 00 00 00 00", INT64_MIN ^ 0xDEADBEEFLL);
+   ROW(HLAfloat64BE, double, TWO_63 + 2048, "43 E0 00 00 00 00 00 01",
+         (INT64_MIN + 2048) ^ 0xDEADBEEFLL);
+   ROW(HLAfloat64BE, double, std::nextafter(2 * TWO_63, 0), "43 EF FF FF FF FF FF FF",
+         -2048 ^ 0xDEADBEEFLL);
+   ROW(HLAfloat64BE, double, 2 * TWO_63, "43 F0 00 00 00 00 00 00", -1 ^ 0xDEADBEEFLL);
+   ROW(HLAfloat64BE, double, INFINITE, "7F F0 00 00 00 00 00 00", -1 ^ 0xDEADBEEFLL);
+   ROW(HLAfloat64BE, double, -INFINITE, "FF F0 00 00 00 00 00 00", INT64_MIN ^ 0xDEADBEEFLL);
+   ROW(HLAoctetPairBE, OctetPair, OctetPair('\x41', '\x42'), "41 42", 3735945133);
+   ROW(HLAoctetPairLE, OctetPair, OctetPair('\x41', '\xFF'), "FF 41",
+         (0x41 * 256 - 1) ^ 0xDEADBEEFLL);
+   ROW(HLAASCIIstring, std::string, "AB", "00 00 00 02 41 42", 3766795652629461688);
+   ROW(HLAASCIIstring, std::string, "\xFF", "00 00 00 01 FF", 2166136261LL * 16777619 ^ -1);
+   ROW(HLAASCIIstring, std::string, std::string(), "00 00 00 00", 2166136261);
+   ROW(HLAunicodeString, std::wstring, L"AB", "00 00 00 02 00 41 00 42", 3766795652629461688);
+   ROW(HLAunicodeString, std::wstring, L"\x20AC", "00 00 00 01 20 AC",
+         2166136261LL * 16777619 ^ 0x20AC);
+}
 
 TEST(ElementTest, edges)
 {
