@@ -60,9 +60,11 @@ def differing_lists():
 
 
 def main():
+    if sys.argv[1:] not in ([], ["--check"]):
+        sys.exit(__doc__)
     texts = wanted()
     paths = differing(texts)
-    if "--check" in sys.argv[1:]:
+    if sys.argv[1:]:
         for path in paths:
             print(f"{path}: not as gen/generator/generate.py writes it")
         lists = differing_lists()
