@@ -19,14 +19,10 @@ struct Maker;
 #define DEFINE_MAKER(A)                                                                            \
    template <>                                                                                     \
    struct Maker<A> {                                                                               \
-      static A make(int value)                                                                     \
+      template <class Value>                                                                       \
+      static A make(Value const& value)                                                            \
       {                                                                                            \
          return make##A(value);                                                                    \
-      }                                                                                            \
-                                                                                                   \
-      static A make(VariableLengthData const& encodedValue)                                        \
-      {                                                                                            \
-         return make##A(encodedValue);                                                             \
       }                                                                                            \
    };
 

@@ -126,7 +126,7 @@ private:
    std::string _frame;
 };
 
-void expectEnd(void (*leave)(Counter&), int code)
+void expectEnd(std::function<void(Counter&)> const& leave, int code)
 {
    GTEST_FLAG_SET(death_test_style, "threadsafe");
    EXPECT_EXIT(leave(*new Counter), testing::ExitedWithCode(code), testing::MatchesRegex(""));
@@ -169,12 +169,11 @@ TEST(DeathTest, processesEndAsTheFederateSays)
          },
          5);
    for (bool const onNewThread : {false, true}) {
-      EXPECT_EXIT(
-            {
-               Counter& federate = *new Counter;
+      expectEnd(
+            [=](Counter& federate) {
                federate.inside = [] { std::exit(6); };
                federate.deliver(onNewThread);
             },
-            testing::ExitedWithCode(6), testing::MatchesRegex(""));
+            6);
    }
 }
