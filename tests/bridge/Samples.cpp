@@ -168,7 +168,7 @@ Samples<RangeBounds> make(RangeBounds*)
    return {RangeBounds(1, 0x100000000), RangeBounds(0, 0), RangeBounds(0xFEDCBA9876543210, 5)};
 }
 
-// All enumerators from the first to the last.
+// All enumerators, or numbers, from the first to the last.
 template <class Enumeration>
 Samples<Enumeration> enumerators(int first, int last)
 {
@@ -246,11 +246,7 @@ Wires records(bool hasRegions)
 
 Wires codes(int first, int last)
 {
-   Wires all;
-   for (int code = first; code <= last; ++code) {
-      all.push_back(integer(code));
-   }
-   return all;
+   return fields(enumerators<int>(first, last));
 }
 
 Wires statuses(int handlesEach, int last)

@@ -15,7 +15,6 @@ import hla.rti1516e.exceptions.RTIexception;
 import java.lang.reflect.InvocationTargetException;
 import java.lang.reflect.Method;
 import java.nio.ByteBuffer;
-import java.util.ArrayList;
 import java.util.Arrays;
 import java.util.Collections;
 import java.util.HashMap;
@@ -25,6 +24,7 @@ import java.util.TreeMap;
 import java.util.TreeSet;
 import java.util.regex.Matcher;
 import java.util.regex.Pattern;
+import java.util.stream.Collectors;
 
 final class Play {
    private static final Pattern NAME = Pattern.compile("\\{(\\w+)\\}|(?<![.\\w])[A-Za-z]\\w*");
@@ -161,19 +161,11 @@ final class Play {
    }
 
    private TreeSet<Integer> numbers(String[] words) {
-      TreeSet<Integer> numbers = new TreeSet<>();
-      for (String each : words) {
-         numbers.add(number(each));
-      }
-      return numbers;
+      return Arrays.stream(words).map(this::number).collect(Collectors.toCollection(TreeSet::new));
    }
 
    private List<String> texts(String[] words) {
-      List<String> texts = new ArrayList<>();
-      for (String each : words) {
-         texts.add(replaced(each));
-      }
-      return texts;
+      return Arrays.stream(words).map(this::replaced).collect(Collectors.toList());
    }
 
    /** The text with the names in it as what they stand for. */
