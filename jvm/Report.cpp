@@ -18,13 +18,13 @@ void Trace::readEnvironment()
 void Trace::operator()(std::string const& line) const
 {
    if (_isOn) {
-      writeError(text::tracePrefix + line + "\n");
+      writeError((text::tracePrefix + line + "\n").c_str());
    }
 }
 
 void fail(std::wstring const& text)
 {
-   writeError(wstring2string(text));
+   writeError(wstring2string(text).c_str());
    throw rti1516e::RTIinternalError(text);
 }
 

@@ -105,8 +105,9 @@ void TraceFile::fail(char const* why)
 
 void TraceFile::end(char const* why)
 {
-   writeError("tarn1516e-record: " + _path + ": " + why
-         + "; the recording ends, the federate goes on\n");
+   std::string const text =
+         "tarn1516e-record: " + _path + ": " + why + "; the recording ends, the federate goes on\n";
+   writeError(text.c_str());
    leave();
 }
 

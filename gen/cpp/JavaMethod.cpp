@@ -12,7 +12,7 @@ jmethodID bind(JNIEnv* env, jclass type, char const* name, char const* signature
 {
    jmethodID const id = env->GetMethodID(type, name, signature);
    if (id == nullptr) {
-      writeError(format(text::noMethod, name));
+      writeError(format(text::noMethod, name).c_str());
    }
    TARN_ASSERT(id != 0);
    return id;

@@ -4,8 +4,8 @@
 #include <new>
 
 std::size_t memory::limit = memory::noLimit;
-long memory::allocations;
-long memory::held;
+std::atomic<long> memory::allocations;
+std::atomic<long> memory::held;
 
 void* operator new(std::size_t size)
 {

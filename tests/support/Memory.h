@@ -3,6 +3,7 @@
 #ifndef tests_support_Memory_h
 #define tests_support_Memory_h
 
+#include <atomic>
 #include <cstddef>
 
 namespace memory {
@@ -11,8 +12,8 @@ std::size_t const noLimit = static_cast<std::size_t>(1) << 38;
 
 // A program with one thread may change the limit, in bytes.
 extern std::size_t limit;
-extern long allocations;
-extern long held; // and not freed yet
+extern std::atomic<long> allocations;
+extern std::atomic<long> held; // and not freed yet
 
 } // namespace memory
 
