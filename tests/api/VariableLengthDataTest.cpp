@@ -60,7 +60,7 @@ struct Modelled {
 TEST(VariableLengthDataTest, ownsAndFreesThroughAllOperations)
 {
    std::mt19937 random(1);
-   char memory[300];
+   char memory[300] = {};
    std::unique_ptr<Modelled> blocks[3];
    for (int step = 0; step < 20000 && !HasFailure(); ++step) {
       std::unique_ptr<Modelled>& slot = blocks[random() % 3];

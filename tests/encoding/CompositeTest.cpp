@@ -230,8 +230,8 @@ TEST(VariantRecordTest, decodesAtAnIndex)
 TEST(VariantRecordTest, leavesClonesAlive)
 {
    int const before = Triple::alive();
-   static Triple const* overwritten; // static, so that a leak checker knows them
-   static Triple const* refused;
+   static Triple const* volatile overwritten; // so that a leak checker knows them
+   static Triple const* volatile refused;
    {
       HLAvariantRecord record(HLAoctet('\x01'));
       HLAoctet const one('\x01');
