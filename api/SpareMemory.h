@@ -1,5 +1,5 @@
 // Memory for what is made and dropped by the thousand: values of scalars, records of short blocks.
-// A thread keeps the last few pieces for the next ones, and frees them at its end.
+// A thread keeps one free piece of each size for the next one, and frees them at its end.
 #ifndef api_SpareMemory_h
 #define api_SpareMemory_h
 
